@@ -1,0 +1,14 @@
+#pragma once
+
+#include "support/DocumentModel.h"
+
+namespace brenix {
+
+/// What closing a document asks and does. False when the user wants to go on with it: then nothing
+/// has been closed, deleted or lost. `activeCaption` is the caption of the active window, which the
+/// question names.
+bool CloseDocument(DocumentModel &document,
+                   const MainWindowBars &bars,
+                   const QString &activeCaption);
+
+} // namespace brenix

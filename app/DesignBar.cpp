@@ -1,0 +1,72 @@
+#include "app/DesignBar.h"
+
+#include <QComboBox>
+#include <QFontDatabase>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+DesignBar::DesignBar(QWidget *parent)
+    : QToolBar(u"Design"_s, parent)
+    , m_font(new QComboBox(this))
+    , m_size(new QComboBox(this))
+    , m_format(new QComboBox(this))
+{
+    setObjectName(u"Picture2"_s);
+    setMovable(false);
+    m_format->setObjectName(u"cobFormat"_s);
+    m_format->setAccessibleName(u"Style"_s);
+    m_font->setObjectName(u"Font1"_s);
+    m_font->setAccessibleName(u"Font"_s);
+    m_size->setObjectName(u"cobSize"_s);
+    m_size->setAccessibleName(u"Font size"_s);
+    for (QComboBox *box : {m_format, m_font, m_size})
+        addWidget(box);
+}
+
+void DesignBar::FillSizes()
+{
+    m_size->clear();
+    for (int size = 1; size <= 7; ++size)
+        m_size->addItem(QString::number(size));
+}
+
+void DesignBar::FillBlockStyles()
+{
+    m_format->clear();
+    m_format->addItems({u"Normal"_s,
+                        u"Formatted"_s,
+                        u"Address"_s,
+                        u"Heading 1"_s,
+                        u"Heading 2"_s,
+                        u"Heading 3"_s,
+                        u"Heading 4"_s,
+                        u"Heading 5"_s,
+                        u"Heading 6"_s,
+                        u"Numbered List"_s,
+                        u"Bulleted List"_s,
+                        u"Directory List"_s,
+                        u"Menu List"_s,
+                        u"Definition Term"_s,
+                        u"Definition"_s,
+                        u"Paragraph"_s});
+}
+
+void DesignBar::showEvent(QShowEvent *event)
+{
+    if (m_font->count() == 0)
+        FillFonts();
+    QToolBar::showEvent(event);
+}
+
+void DesignBar::FillFonts()
+{
+    QStringList families = QFontDatabase::families();
+    std::sort(families.begin(), families.end());
+    m_font->addItems(families);
+}
+
+} // namespace brenix

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace brenix {
+
+/// The directory of unsaved documents, without a separator at its end. Nothing is written there but
+/// preview copies.
+QString TempDir();
+/// Reads `Settings`/`TemporaryDirectory`; without one it is the application directory's own.
+/// Returns the directory.
+QString ChooseTempDir();
+
+/// The caption of the `number`-th new document, which marks it as one that was never saved.
+QString UntitledCaption(int number);
+/// True for every name in the directory of unsaved documents that begins with "Document".
+bool IsUntitled(const QString &caption);
+
+/// What the command line asks for: the arguments joined as they were typed, without double quotes
+/// and outer blanks. The one switch is "-StartFirst"; anything else is the path of one file, blanks
+/// included.
+struct CommandLine
+{
+    bool startFirst = false;
+    QString path; ///< empty when no file is named
+};
+CommandLine ReadCommandLine(const QStringList &arguments);
+
+} // namespace brenix

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <functional>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace brenix {
+
+/// The menu tree of the main window, built from one table of names, captions and shortcuts. An
+/// action's object name is its menu name. Only commands that have something to run are in the tree,
+/// and only menus that hold one.
+class MainMenu
+{
+public:
+    using Command = std::function<void()>;
+    using Commands = QHash<QString, Command>;
+
+    MainMenu(QMenuBar *bar, const Commands &commands);
+
+    /// The action of a menu name; null when the tree has none.
+    QAction *ActionOf(const QString &name) const { return m_actions.value(name); }
+    QMenu *MenuOf(const QString &name) const { return m_menus.value(name); }
+
+private:
+    QHash<QString, QAction *> m_actions;
+    QHash<QString, QMenu *> m_menus;
+};
+
+} // namespace brenix

@@ -1,0 +1,119 @@
+#include "app/NewDocumentPane.h"
+
+#include "app/RecentFiles.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+    constexpr int BlinkTime = 600; // ms
+    constexpr int FirstRecentRow = 3;
+} // namespace
+
+NewDocumentPane::NewDocumentPane(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(u"NewDocument"_s);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 2, 6, 6);
+    m_kinds = AddList(u"List2"_s, u"&New"_s, 2);
+    m_openList = AddList(u"List1"_s, u"O&pen"_s, 3);
+    m_templates = AddList(u"List3"_s, u"Te&mplates"_s, 3);
+    m_kinds->addItems(
+        {u"HTML Document"_s, u"Simple HTML Document"_s, u"Empty Document"_s, u"XHTML Document"_s});
+
+    connect(m_kinds, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
+        emit KindChosen(item->text());
+    });
+    connect(m_openList, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
+        emit OpenRowChosen(m_openList->row(item));
+    });
+    connect(m_templates, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
+        emit TemplateChosen(item->text());
+    });
+    m_templates->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_templates, &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
+        if (const QListWidgetItem *item = m_templates->itemAt(place))
+            emit TemplateDeletionAsked(item->text());
+    });
+
+    m_blink.setObjectName(u"Blink"_s);
+    m_blink.setSingleShot(true);
+    m_blink.setInterval(BlinkTime);
+    connect(&m_blink, &QTimer::timeout, this, [this] {
+        for (QListWidget *list : {m_kinds, m_openList})
+            list->setPalette(palette());
+    });
+}
+
+QListWidget *NewDocumentPane::AddList(const QString &name, const QString &caption, int stretch)
+{
+    auto *label = new QLabel(caption, this);
+    auto *list = new QListWidget(this);
+    list->setObjectName(name);
+    list->setAccessibleName(QString(caption).remove(u'&'));
+    label->setBuddy(list);
+    auto *box = static_cast<QVBoxLayout *>(layout());
+    box->addWidget(label);
+    box->addWidget(list, stretch);
+    return list;
+}
+
+void NewDocumentPane::RebuildOpenList()
+{
+    m_openList->clear();
+    const QStringList rows = OpenListRows();
+    for (int row = 0; row < rows.size(); ++row) {
+        auto *item = new QListWidgetItem(rows[row], m_openList);
+        if (row > 0 && row < FirstRecentRow)
+            item->setFlags(Qt::NoItemFlags);
+        if (row >= FirstRecentRow)
+            item->setToolTip(RecentFile(row - FirstRecentRow + 1));
+    }
+}
+
+void NewDocumentPane::SetTemplates(const QStringList &names)
+{
+    m_templates->clear();
+    m_templates->addItems(names);
+}
+
+void NewDocumentPane::AddTemplate(const QString &name)
+{
+    m_templates->addItem(name);
+}
+
+void NewDocumentPane::RemoveTemplate(const QString &name)
+{
+    for (QListWidgetItem *item : m_templates->findItems(name, Qt::MatchExactly))
+        delete item;
+}
+
+void NewDocumentPane::PointToKinds()
+{
+    PointTo(m_kinds);
+}
+
+void NewDocumentPane::PointToOpenList()
+{
+    PointTo(m_openList);
+}
+
+void NewDocumentPane::PointTo(QListWidget *list)
+{
+    QPalette contrast = list->palette();
+    contrast.setBrush(QPalette::Base, contrast.highlight());
+    contrast.setBrush(QPalette::Text, contrast.highlightedText());
+    list->setPalette(contrast);
+    list->setFocus();
+    if (!list->currentItem())
+        list->setCurrentRow(0);
+    m_blink.start();
+}
+
+} // namespace brenix

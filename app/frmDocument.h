@@ -1,0 +1,99 @@
+#pragma once
+
+#include "support/DocumentModel.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+class QToolBar;
+
+namespace brenix {
+
+class CodeHighlight;
+class SplitBar;
+
+/// The window of one document: source view, preview, the bars between them and the view bar below.
+/// It is the document: commands reach its state by the fields of DocumentModel.
+class frmDocument : public QWidget, public DocumentModel
+{
+    Q_OBJECT
+
+public:
+    frmDocument(MainWindowBars &bars, const QString &caption, QWidget *parent = nullptr);
+    ~frmDocument() override;
+
+    SourceView &rtfText() override;
+    BrowserView *WebBrowser1() override { return m_browser; }
+    void WritePreview() override;
+    void ArmRefresher(int milliseconds) override;
+    void RunLayout() override;
+    void RemoveLists() override { }
+
+    CodeHighlight &Source() { return *m_source; }
+    /// Loads a file that becomes the document's own, or a template, whose text starts an unsaved
+    /// document. A file that cannot be read leaves the page empty, after a message; false then.
+    bool OpenFile(const QString &path);
+    bool LoadText(const QString &path);
+    /// Gives the page its text without counting it as a change of the author's.
+    void StartWith(const QString &text, int caret);
+    /// Writes the page to its file; asks for a name when there is none. False when nothing was
+    /// saved.
+    bool Save();
+    bool SaveAs(const QString &title);
+    /// Renews the preview soon, as the view bar and F5 do.
+    void RefreshPreview(int milliseconds);
+    /// What the main window must know again when this window becomes active or gets another name.
+    void Form_Activate();
+    int ViewBarHeight() const;
+    /// Sets font, colours, language and wrapping from the settings.
+    void ConfigureSource();
+
+signals:
+    /// The window became active or was renamed.
+    void Activated();
+    void CaptionChanged();
+    /// The preview has shown the page.
+    void PreviewPainted();
+    void PreviewStatus(const QString &text);
+    /// The page's directory is to be listed anew.
+    void FilesChanged();
+    void ContextMenu(const QPoint &globalPosition);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void BuildViewBar();
+    void BuildSplitters();
+    void ConnectFields();
+    void PlaceSplit();
+    void DragSplit(int position, bool finished);
+    int SplitPosition() const;
+    void OnSourceChange();
+    void OnRefresher();
+    void FollowCaption();
+    void NeedPreview();
+    void CreatePreview();
+    QRect ViewArea() const;
+
+    MainWindowBars &m_bars;
+    CodeHighlight *m_source;
+    BrowserView *m_browser = nullptr;
+    QLabel *m_previewPlace; // stands where the preview will be until the web engine is up
+    SplitBar *m_splitH;
+    SplitBar *m_splitV;
+    QToolBar *m_viewBar;
+    QTimer m_refresher;
+    QTimer m_copyWriter;
+    QTimer m_autoSave;
+    QTimer m_previewStart;
+    double m_splitShare = 0.5; // of the window, for the part before the bar
+    bool m_loading = false;
+    bool m_copyStale = false;
+};
+
+} // namespace brenix

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "app/MainMenu.h"
+#include "support/DocumentModel.h"
+
+#include <QMainWindow>
+
+class QAction;
+class QComboBox;
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QMimeData;
+class QSplitter;
+class QTabBar;
+class QToolBar;
+
+namespace brenix {
+
+class AddressBar;
+class DesignBar;
+class frmDocument;
+class frmSplash;
+class NewDocumentPane;
+class Toolbox;
+struct CommandLine;
+
+/// The multiple-document main window: menus, toolbars, the bars below, the toolbox, and the
+/// document windows. Almost every command acts on the active document.
+class frmMain : public QMainWindow, public MainWindowBars
+{
+    Q_OBJECT
+
+public:
+    frmMain();
+    ~frmMain() override;
+
+    /// The start-up steps, in their order; each says what it does on the splash.
+    void LoadSteps(frmSplash &splash, const CommandLine &commandLine);
+
+    /// Null when no document is open.
+    frmDocument *ActiveForm() const;
+    /// A new, empty document window, which becomes the active one.
+    frmDocument *LoadNewDoc();
+    void OpenDoc();
+    void OpenPath(const QString &path);
+    /// Both fill the active document with a standard page.
+    void HTMLdoc();
+    void sHTMLdoc();
+
+    void ShowBarsFor(const QString &status) override;
+    void ShowModified(const QString &text) override;
+    QString ModifiedPanel() const override;
+    QString Address() const override;
+    void SetAddress(const QString &address) override;
+    bool IsLocalMode() const override;
+
+signals:
+    void PreviewPainted();
+    /// All documents are closed and the window is gone.
+    void Closed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    // building
+    void BuildCentre();
+    void BuildMenu();
+    void BuildToolbars();
+    void BuildStatusBars();
+    void BuildToolbox();
+    MainMenu::Commands Commands();
+    void AddFileCommands(MainMenu::Commands &commands);
+    void AddEditCommands(MainMenu::Commands &commands);
+    void AddViewCommands(MainMenu::Commands &commands);
+    void AddWindowCommands(MainMenu::Commands &commands);
+
+    // start and end
+    void ReadTabs();
+    void CheckDirectories();
+    void ReadLargeFile();
+    void RestoreWindow();
+    void OpenAtStart(frmSplash &splash, const CommandLine &commandLine);
+    void OpenLastEdited();
+    void ShowTips();
+    void StoreWindow();
+
+    // documents
+    void FillActive(const QString &page, int caret);
+    void NewDocument(const QString &kind);
+    void OpenListRow(int row);
+    void OpenTemplate(const QString &name);
+    void DeleteTemplate(const QString &name);
+    void SaveAsTemplate();
+    void OpenDropped(const QMimeData &data);
+    QList<frmDocument *> Documents() const;
+    void ForActive(const std::function<void(frmDocument &)> &command);
+
+    // the window follows its documents
+    void OnWindowActivated(QMdiSubWindow *window);
+    void OnDocumentActivated();
+    void EnableDocumentCommands(bool enabled);
+    void RebuildTabs();
+    void RebuildWindowMenu();
+    void TickViewMenu();
+    void ShowCaret();
+    void ShowToolbox(bool shown);
+    void ShowNewDocumentPane(const QString &notice);
+    void TileWindows(Qt::Orientation orientation);
+    void ArrangeIcons();
+    void ResizeToScreen(const QString &screen);
+
+    QMdiArea *m_area = nullptr;
+    QTabBar *m_tabStrip = nullptr; // TabStrip1
+    QWidget *m_picture4 = nullptr; // its host
+    QSplitter *m_splitter = nullptr; // Image3
+    Toolbox *m_toolbox = nullptr;
+    NewDocumentPane *m_newDocumentPane = nullptr;
+    QComboBox *m_filter = nullptr; // Filter
+    QToolBar *m_toolbar1 = nullptr;
+    QToolBar *m_noWindows = nullptr;
+    AddressBar *m_addressBar = nullptr; // Picture1
+    DesignBar *m_designBar = nullptr; // Picture2
+    QWidget *m_sourceBar = nullptr; // sbStatusBar
+    QWidget *m_previewBar = nullptr; // SB2
+    QLabel *m_linePanel = nullptr;
+    QLabel *m_characterPanel = nullptr;
+    QLabel *m_modifiedPanel = nullptr;
+    QLabel *m_previewText = nullptr;
+    MainMenu::Commands m_commands;
+    std::unique_ptr<MainMenu> m_menu;
+    QList<QAction *> m_windowItems;
+    int m_documentCounter = 0;
+};
+
+} // namespace brenix

@@ -1,0 +1,234 @@
+#include "app/AddressBar.h"
+#include "app/NewDocumentPane.h"
+#include "app/Toolbox.h"
+#include "app/frmDocument.h"
+#include "app/frmMain.h"
+#include "app/frmTip.h"
+#include "editor/CodeHighlight.h"
+#include "support/MessageBoxes.h"
+#include "support/SettingsStore.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    constexpr int ForcedRefresh = 50; // ms
+
+    void Copy(const CodeHighlight &source)
+    {
+        if (source.SelLength() > 0)
+            QGuiApplication::clipboard()->setText(source.SelText().replace(u"\r\n"_s, u"\n"_s));
+    }
+
+} // namespace
+
+MainMenu::Commands frmMain::Commands()
+{
+    MainMenu::Commands commands;
+    AddFileCommands(commands);
+    AddEditCommands(commands);
+    AddViewCommands(commands);
+    AddWindowCommands(commands);
+    return commands;
+}
+
+void frmMain::AddFileCommands(MainMenu::Commands &commands)
+{
+    commands[u"NewHtmlDocument"_s] = [this] { NewDocument(u"HTML Document"_s); };
+    commands[u"OpenDocument"_s] = [this] { OpenDoc(); };
+    commands[u"mnuFileNew"_s] = [this] {
+        ShowNewDocumentPane(u"Brenix 2 does not make new documents the standard way. If you click "
+                            u"on 'New' from the "
+                            "file menu, the toolbox will be opened and the 'New document' layer "
+                            "will be visible. From "
+                            "this box you can make a new document (from the lists)."_s);
+        m_newDocumentPane->PointToKinds();
+    };
+    commands[u"mnuFileOpen"_s] = [this] {
+        ShowNewDocumentPane(u"Brenix 2 does not open documents the standard way. If you click on "
+                            u"open from the file "
+                            "menu, the toolbox will be opened and the 'New document' layer will be "
+                            "visible. From this "
+                            "box you can open documents (from the lists)."_s);
+        m_newDocumentPane->PointToOpenList();
+    };
+    commands[u"mnuFileClose"_s] = [this] {
+        if (QMdiSubWindow *window = m_area->currentSubWindow())
+            window->close();
+    };
+    commands[u"mnuFileSave"_s]
+        = [this] { ForActive([](frmDocument &document) { document.Save(); }); };
+    commands[u"mnuFileSaveAs"_s]
+        = [this] { ForActive([](frmDocument &document) { document.SaveAs(u"Save As"_s); }); };
+    commands[u"mnuSaveAsTemplate"_s] = [this] { SaveAsTemplate(); };
+    commands[u"mnuFileExit"_s] = [this] { close(); };
+}
+
+void frmMain::AddEditCommands(MainMenu::Commands &commands)
+{
+    const auto onSource = [this](auto command) {
+        return [this, command] {
+            ForActive([&](frmDocument &document) { command(document, document.Source()); });
+        };
+    };
+    commands[u"mnuEditUndo"_s]
+        = onSource([](frmDocument &, CodeHighlight &source) { source.Undo(); });
+    commands[u"mnuEditmnuEditRedo"_s]
+        = onSource([](frmDocument &, CodeHighlight &source) { source.Redo(); });
+    commands[u"mnuEditCopy"_s]
+        = onSource([](frmDocument &, CodeHighlight &source) { Copy(source); });
+    commands[u"mnuEditCut"_s] = onSource([](frmDocument &document, CodeHighlight &source) {
+        Copy(source);
+        if (source.SelLength() == 0 || source.isReadOnly())
+            return;
+        source.SetSelText({});
+        source.AddUndo();
+        document.KeyDone = true;
+    });
+    commands[u"mnuEditPaste"_s] = onSource([](frmDocument &document, CodeHighlight &source) {
+        const QString text = QGuiApplication::clipboard()->text();
+        if (text.isEmpty() || source.isReadOnly())
+            return;
+        source.SetSelText(text);
+        source.ensureCursorVisible();
+        source.AddUndo();
+        document.KeyDone = true;
+    });
+    commands[u"mnuDelete"_s] = onSource([](frmDocument &, CodeHighlight &source) {
+        if (!source.isReadOnly())
+            source.SetSelText({});
+    });
+    commands[u"mnuSelectAll"_s] = onSource([](frmDocument &, CodeHighlight &source) {
+        source.SetSelStart(0);
+        source.SetSelLength(source.TextLength());
+    });
+}
+
+void frmMain::AddViewCommands(MainMenu::Commands &commands)
+{
+    commands[u"mnuViewToolbar"_s] = [this] {
+        const bool shown = m_menu->ActionOf(u"mnuViewToolbar"_s)->isChecked();
+        m_toolbar1->setVisible(shown);
+        ForActive([this](frmDocument &document) { ShowBarsFor(document.Status()); });
+    };
+    commands[u"mnuViewStatusBar"_s]
+        = [this] { statusBar()->setVisible(m_menu->ActionOf(u"mnuViewStatusBar"_s)->isChecked()); };
+    commands[u"mnuToolboxs"_s]
+        = [this] { ShowToolbox(m_menu->ActionOf(u"mnuToolboxs"_s)->isChecked()); };
+    commands[u"mnuTabs"_s] = [this] {
+        const bool shown = m_menu->ActionOf(u"mnuTabs"_s)->isChecked();
+        m_picture4->setVisible(shown);
+        SaveSetting(u"Settings", u"Tabs", shown ? u"1"_s : u"0"_s);
+    };
+    const std::pair<QString, QString> views[] = {{u"mnuSplitMode"_s, u"Split"_s},
+                                                 {u"mnuHtmlMode"_s, u"HTML"_s},
+                                                 {u"mnuPreviewMode"_s, u"Preview"_s}};
+    for (const auto &[name, status] : views) {
+        commands[name] = [this, status = status] {
+            ForActive([&](frmDocument &document) {
+                document.Status = status;
+                document.RefreshPreview(0);
+            });
+        };
+    }
+    commands[u"mnuViewRefresh"_s] = [this] {
+        ForActive([](frmDocument &document) { document.RefreshPreview(ForcedRefresh); });
+    };
+    commands[u"mnuSplitH"_s]
+        = [this] { ForActive([](frmDocument &document) { document.SplitHV = u"0"_s; }); };
+    commands[u"mnuSplitV"_s]
+        = [this] { ForActive([](frmDocument &document) { document.SplitHV = u"1"_s; }); };
+}
+
+void frmMain::AddWindowCommands(MainMenu::Commands &commands)
+{
+    commands[u"mnuWindowNewWindow"_s] = [this] { m_area->activateNextSubWindow(); };
+    commands[u"mnuWindowCascade"_s] = [this] { m_area->cascadeSubWindows(); };
+    commands[u"mnuWindowTileHorizontal"_s] = [this] { TileWindows(Qt::Horizontal); };
+    commands[u"mnuWindowTileVertical"_s] = [this] { TileWindows(Qt::Vertical); };
+    commands[u"mnuWindowArrangeIcons"_s] = [this] { ArrangeIcons(); };
+    commands[u"mnuHelpTip"_s] = [this] {
+        SaveSetting(u"Options", u"Show Tips at Startup", u"1"_s);
+        frmTip(this).exec();
+    };
+}
+
+// Rows one above the other, or columns side by side.
+void frmMain::TileWindows(Qt::Orientation orientation)
+{
+    QList<QMdiSubWindow *> windows = m_area->subWindowList();
+    windows.removeIf([](const QMdiSubWindow *window) { return window->isMinimized(); });
+    const int count = int(windows.size());
+    const QSize whole = m_area->viewport()->size();
+    for (int i = 0; i < count; ++i) {
+        windows[i]->showNormal();
+        if (orientation == Qt::Horizontal)
+            windows[i]->setGeometry(
+                0, whole.height() * i / count, whole.width(), whole.height() / count);
+        else
+            windows[i]->setGeometry(
+                whole.width() * i / count, 0, whole.width() / count, whole.height());
+    }
+}
+
+// Minimised windows in a row at the lower edge.
+void frmMain::ArrangeIcons()
+{
+    int left = 0;
+    for (QMdiSubWindow *window : m_area->subWindowList()) {
+        if (!window->isMinimized())
+            continue;
+        window->move(left, m_area->viewport()->height() - window->height());
+        left += window->width();
+    }
+}
+
+void frmMain::ShowNewDocumentPane(const QString &notice)
+{
+    ShowToolbox(true);
+    m_toolbox->ShowPane(m_newDocumentPane);
+    if (GetNumberSetting(u"ShowOnlyOnce", u"Open", 0) != 0)
+        return;
+    SaveSetting(u"ShowOnlyOnce", u"Open", u"1"_s);
+    MsgBox(notice + u"\n\nThis dialog will not showed again"_s, Buttons::Ok, Icon::Information);
+}
+
+void frmMain::TickViewMenu()
+{
+    const QString status = ActiveForm() ? ActiveForm()->Status() : QString();
+    m_menu->ActionOf(u"mnuSplitMode"_s)->setChecked(status == u"Split");
+    m_menu->ActionOf(u"mnuHtmlMode"_s)->setChecked(status == u"HTML");
+    m_menu->ActionOf(u"mnuPreviewMode"_s)->setChecked(status == u"Preview");
+}
+
+void frmMain::EnableDocumentCommands(bool enabled)
+{
+    for (const QString &name :
+         {u"mnuFileClose"_s, u"mnuFileSaveAs"_s, u"mnuFileSave"_s, u"mnuSaveAsTemplate"_s})
+        m_menu->ActionOf(name)->setEnabled(enabled);
+    for (const QString &name : {u"mnuEdit"_s, u"mnuView"_s, u"mnuTools"_s, u"mnuWindow"_s}) {
+        m_menu->MenuOf(name)->menuAction()->setEnabled(enabled);
+        // A disabled menu does not stop the shortcuts of its items.
+        for (QAction *action : m_menu->MenuOf(name)->actions())
+            action->setEnabled(enabled);
+    }
+    if (!m_noWindows)
+        return;
+    m_noWindows->setVisible(!enabled);
+    m_toolbar1->setVisible(enabled && m_menu->ActionOf(u"mnuViewToolbar"_s)->isChecked());
+    if (!enabled)
+        m_addressBar->hide();
+}
+
+} // namespace brenix

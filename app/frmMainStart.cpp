@@ -1,0 +1,230 @@
+#include "app/DesignBar.h"
+#include "app/Documents.h"
+#include "app/NewDocumentPane.h"
+#include "app/RecentFiles.h"
+#include "app/Toolbox.h"
+#include "app/frmDocument.h"
+#include "app/frmMain.h"
+#include "app/frmSplash.h"
+#include "app/frmTip.h"
+#include "editor/LargeFile.h"
+#include "support/AuthorFile.h"
+#include "support/Paths.h"
+#include "support/SettingsStore.h"
+#include "support/SourceView.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QSplitter>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    constexpr int TwipsPerPixel = 15;
+    constexpr int MaximisedState = 2;
+    constexpr int SmallestWindow
+        = 200; // pixels, so that a damaged setting leaves something to grasp
+    constexpr int DefaultLargeFile = 20000;
+
+    // clang-format off
+    constexpr const char16_t *Dialects[] = {
+        u"All HTML", u"HTML 2.0", u"HTML 3.2", u"HTML 4.0",
+        u"Netscape 1.0", u"Netscape 1.1", u"Netscape 2.0", u"Netscape 3.0", u"Netscape 4.0",
+        u"Internet Explorer 1.0", u"Internet Explorer 2.0", u"Internet Explorer 3.0", u"Internet Explorer 4.0",
+        u"Cold Fusion", u"Web TV",
+    };
+    // clang-format on
+
+    std::optional<int> PixelSetting(QStringView key, int defaultTwips)
+    {
+        const std::optional<int> twips = GetNumberSetting(u"Settings", key, defaultTwips);
+        return twips ? std::optional(*twips / TwipsPerPixel) : std::nullopt;
+    }
+
+    void SaveNumber(QStringView key, int value)
+    {
+        SaveSetting(u"Settings", key, QString::number(value));
+    }
+
+} // namespace
+
+// Each step relies on what the ones before it did; one that fails does nothing, and the next one
+// runs.
+void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
+{
+    splash.Say(u"Reading Language..."_s);
+    if (commandLine.startFirst && GetSetting(u"Settings", u"Coolbar1", u"Hei"_s) != u"Hei")
+        SaveSetting(u"Settings", u"Coolbar1", u"Hei"_s);
+    splash.Say(u"Reading version..."_s);
+    SaveNumber(u"Version Major", VersionMajor());
+    SaveNumber(u"Version Minor", VersionMinor());
+    SaveNumber(u"Version Build", VersionBuild());
+    splash.Say(u"Building toolbars..."_s);
+    BuildToolbars();
+    ReadTabs();
+    splash.Say(u"Checking directories..."_s);
+    CheckDirectories();
+    FinishInterruptedWrites();
+    splash.Say(u"Finding temporary directory..."_s);
+    SaveSetting(u"Settings", u"Dir", AppDirectory());
+    ChooseTempDir();
+    if (!GetSetting(u"Settings", u"TemporaryDirectory").isEmpty())
+        splash.Say(u"Setting temporary directory to "_s + TempDir());
+    ReadLargeFile();
+    splash.Say(u"Loading recentfiles list..."_s);
+    m_newDocumentPane->RebuildOpenList();
+    splash.Say(u"Getting Templates information..."_s);
+    m_newDocumentPane->SetTemplates(QDir(AppPath(u"Templates")).entryList(QDir::Files, QDir::Name));
+    splash.Say(u"Loading browserlist..."_s);
+    m_designBar->FillSizes();
+    // The design bar reads them when it is first shown.
+    splash.Say(u"Loading and sorting fonts..."_s);
+    splash.Say(u"Preparing user interface..."_s);
+    RestoreWindow();
+    splash.Say(u"Loading taglist..."_s);
+    splash.Say(u"Loading TidyTools presets..."_s);
+    splash.Say(u"Loading styles..."_s);
+    m_designBar->FillBlockStyles();
+    splash.Say(u"Finished!"_s);
+    OpenAtStart(splash, commandLine);
+    splash.Say(u"Loading tips..."_s);
+    ShowTips();
+}
+
+void frmMain::ReadTabs()
+{
+    const bool shown = GetSetting(u"Settings", u"Tabs", u"0"_s) != u"0";
+    m_picture4->setVisible(shown);
+    m_menu->ActionOf(u"mnuTabs"_s)->setChecked(shown);
+}
+
+void frmMain::CheckDirectories()
+{
+    for (const QStringView name : {u"Macro", u"Templates", u"Temp"})
+        QDir().mkpath(AppPath(name));
+    for (const char16_t *dialect : Dialects)
+        m_filter->addItem(QString::fromUtf16(dialect));
+    m_filter->setCurrentIndex(0);
+}
+
+void frmMain::ReadLargeFile()
+{
+    if (GetSetting(u"Settings", u"LargeFile").isEmpty())
+        SaveNumber(u"LargeFile", DefaultLargeFile);
+    SetLargeFile(
+        GetNumberSetting(u"Settings", u"LargeFile", DefaultLargeFile).value_or(DefaultLargeFile));
+}
+
+void frmMain::RestoreWindow()
+{
+    SaveSetting(u"Settings",
+                u"Version",
+                u"%1.%2.%3"_s.arg(VersionMajor()).arg(VersionMinor()).arg(VersionBuild()));
+    const QRect design(0, 0, 900, 650);
+    QRect place(PixelSetting(u"MainLeft", 1000).value_or(design.left()),
+                PixelSetting(u"MainTop", 1000).value_or(design.top()),
+                PixelSetting(u"MainWidth", 6500).value_or(design.width()),
+                PixelSetting(u"MainHeight", 6500).value_or(design.height()));
+    // A window that lies off every screen, or is larger than its screen, is brought back onto one.
+    const QScreen *screen = QGuiApplication::screenAt(place.center());
+    const QRect whole = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    place.setSize(
+        place.size().expandedTo({SmallestWindow, SmallestWindow}).boundedTo(whole.size()));
+    place.moveLeft(std::clamp(place.left(), whole.left(), whole.right() + 1 - place.width()));
+    place.moveTop(std::clamp(place.top(), whole.top(), whole.bottom() + 1 - place.height()));
+    setGeometry(place);
+    if (GetNumberSetting(u"Settings", u"WindowState", MaximisedState) == MaximisedState)
+        setWindowState(Qt::WindowMaximized);
+    const int toolboxWidth = std::clamp(
+        PixelSetting(u"ToolBoxWidth", 2430).value_or(162), 80, std::max(80, whole.width() / 2));
+    m_splitter->setSizes({whole.width() - toolboxWidth, toolboxWidth});
+    ShowToolbox(IsSettingOn(u"Settings", u"ToolBoxView", true));
+}
+
+void frmMain::OpenAtStart(frmSplash &splash, const CommandLine &commandLine)
+{
+    if (!commandLine.path.isEmpty()) {
+        splash.Say(u"Loading "_s + commandLine.path + u"..."_s);
+        OpenPath(QDir::toNativeSeparators(QFileInfo(commandLine.path).absoluteFilePath()));
+        return;
+    }
+    splash.Say(u"Loading startup files..."_s);
+    switch (GetNumberSetting(u"Settings", u"Startup", 3).value_or(0)) {
+    case 1:
+        // The chooser needs a window to stand over.
+        QTimer::singleShot(0, this, &frmMain::OpenDoc);
+        break;
+    case 2:
+        OpenLastEdited();
+        break;
+    case 3:
+        NewDocument(u"HTML Document"_s);
+        break;
+    case 4:
+        NewDocument(u"Simple HTML Document"_s);
+        break;
+    case 5:
+        LoadNewDoc();
+        break;
+    default:
+        break;
+    }
+}
+
+// Without a recent file there is an empty page, and nothing is said.
+void frmMain::OpenLastEdited()
+{
+    frmDocument *document = LoadNewDoc();
+    const QString path = RecentFile(1);
+    if (path.isEmpty())
+        return;
+    document->OpenFile(path);
+    document->rtfText().AddUndo();
+    document->Modyfied = u"0"_s;
+}
+
+void frmMain::ShowTips()
+{
+    if (frmTip::IsWanted())
+        QTimer::singleShot(0, this, [this] { frmTip(this).exec(); });
+}
+
+void frmMain::closeEvent(QCloseEvent *event)
+{
+    for (QMdiSubWindow *window : m_area->subWindowList()) {
+        m_area->setActiveSubWindow(window);
+        if (!window->close()) {
+            event->ignore();
+            return;
+        }
+    }
+    StoreWindow();
+    event->accept();
+    emit Closed();
+}
+
+void frmMain::StoreWindow()
+{
+    if (isMinimized())
+        return;
+    const QRect place = isMaximized() ? normalGeometry() : geometry();
+    SaveNumber(u"MainLeft", place.left() * TwipsPerPixel);
+    SaveNumber(u"MainTop", place.top() * TwipsPerPixel);
+    SaveNumber(u"MainWidth", place.width() * TwipsPerPixel);
+    SaveNumber(u"MainHeight", place.height() * TwipsPerPixel);
+    SaveNumber(u"Windowstate", isMaximized() ? MaximisedState : 0);
+    SaveSetting(u"Settings", u"ToolBoxView", m_toolbox->isHidden() ? u"False"_s : u"True"_s);
+    if (!m_toolbox->isHidden())
+        SaveNumber(u"ToolBoxWidth", m_toolbox->width() * TwipsPerPixel);
+}
+
+} // namespace brenix

@@ -1,0 +1,70 @@
+#include "app/frmSplash.h"
+
+#include "support/Paths.h"
+
+#include <QBoxLayout>
+#include <QCoreApplication>
+#include <QIcon>
+#include <QLabel>
+#include <QVersionNumber>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    int VersionPart(int index)
+    {
+        return QVersionNumber::fromString(QCoreApplication::applicationVersion()).segmentAt(index);
+    }
+
+} // namespace
+
+int VersionMajor()
+{
+    return VersionPart(0);
+}
+
+int VersionMinor()
+{
+    return VersionPart(1);
+}
+
+int VersionBuild()
+{
+    return VersionPart(2);
+}
+
+frmSplash::frmSplash()
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
+    , m_status(new QLabel(this))
+{
+    setObjectName(u"frmSplash"_s);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(32, 24, 32, 20);
+    auto *picture = new QLabel(this);
+    picture->setPixmap(QPixmap(AppPath(u"brenix.png")));
+    auto *name = new QLabel(u"Brenix"_s, this);
+    QFont large = name->font();
+    large.setPointSize(large.pointSize() * 2);
+    large.setBold(true);
+    name->setFont(large);
+    auto *version = new QLabel(
+        u"Version %1.%2  built %3"_s.arg(VersionMajor()).arg(VersionMinor()).arg(VersionBuild()),
+        this);
+    for (QLabel *label : {picture, name, version, m_status}) {
+        label->setAlignment(Qt::AlignCenter);
+        layout->addWidget(label);
+    }
+    m_status->setObjectName(u"Label1"_s);
+    setFixedSize(360, 240);
+}
+
+void frmSplash::Say(const QString &text)
+{
+    m_status->setText(text);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace brenix

@@ -1,0 +1,497 @@
+#include "editor/CodeHighlight.h"
+
+#include "editor/Gutter.h"
+#include "editor/LargeFile.h"
+#include "editor/LineEnds.h"
+#include "editor/PageText.h"
+#include "support/AuthorFile.h"
+#include "support/MessageBoxes.h"
+#include "support/SettingsStore.h"
+
+#include <QMimeData>
+#include <QPaintEvent>
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    constexpr int UndoDelay = 5; // ms
+
+    // The same text with every line end as CR LF.
+    QString WithCrLf(const QString &text)
+    {
+        return TextOf(HeldText(text, LineEnd::CrLf));
+    }
+
+    QColor ColourOf(quint32 value)
+    {
+        const qint64 translated = TranslateColour(value);
+        const quint32 rgb = translated < 0 ? 0xFFFFFFu : quint32(translated);
+        return QColor(rgb & 0xFF, rgb >> 8 & 0xFF, rgb >> 16 & 0xFF);
+    }
+
+} // namespace
+
+CodeHighlight::CodeHighlight(QWidget *parent)
+    : QPlainTextEdit(parent)
+    , m_mirror(new PageMirror(document()))
+    , m_colours(document(), *m_mirror, m_tables)
+    , m_gutter(new Gutter(*this))
+{
+    // The box's own undo would keep every character a second time.
+    document()->setUndoRedoEnabled(false);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setFrameShape(QFrame::NoFrame);
+    m_colours.SetColours(m_syntaxColours);
+    SetBackColor(m_backColor);
+    SetFont(u"Courier New"_s, 10);
+
+    m_timer2.setSingleShot(true);
+    m_timer2.setInterval(UndoDelay);
+    connect(&m_timer2, &QTimer::timeout, this, &CodeHighlight::AddUndo);
+    connect(m_mirror,
+            &PageMirror::EditedByView,
+            this,
+            [this](int from, int removed, int added, bool lines) {
+                m_colours.OnEdit(from, removed, added, lines);
+                m_lineEdited = true;
+                m_textChanged = true;
+            });
+    // The document reports repainting as a change as well.
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (std::exchange(m_textChanged, false))
+            emit Change();
+    });
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CodeHighlight::OnSelChange);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &CodeHighlight::OnSelChange);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &CodeHighlight::OnScroll);
+    connect(this, &QPlainTextEdit::blockCountChanged, this, &CodeHighlight::PlaceGutter);
+    connect(this, &QPlainTextEdit::updateRequest, m_gutter, qOverload<>(&QWidget::update));
+    PlaceGutter();
+}
+
+QString CodeHighlight::Text() const
+{
+    return TextOf(m_mirror->Rope());
+}
+
+// Only what differs is replaced: the box keeps its place, and untouched lines keep the line ends of
+// their file.
+void CodeHighlight::SetText(const QString &text)
+{
+    const QString before = Text();
+    const QString after = WithCrLf(text);
+    const auto length = std::min(before.size(), after.size());
+    auto head = std::mismatch(before.begin(), before.begin() + length, after.begin()).first
+        - before.begin();
+    auto tail
+        = std::mismatch(before.rbegin(), before.rbegin() + (length - head), after.rbegin()).first
+        - before.rbegin();
+    // Neither end may lie between the two units of a line end.
+    head -= head > 0 && before[head - 1] == u'\r';
+    tail -= tail > 0 && before[before.size() - tail] == u'\n';
+
+    const int from = m_mirror->Rope().FromTextPosition(int(head));
+    const int upTo = m_mirror->Rope().FromTextPosition(int(before.size() - tail));
+    const QString held = HeldText(QStringView(after).sliced(head, after.size() - head - tail),
+                                  m_mirror->UsualEnd());
+    m_textChanged = true;
+    m_repaintEnabled = false;
+    m_mirror->Replace(from, upTo - from, held);
+    m_mirror->BreakLongBlocks(from, int(held.size()));
+    TellLimitOnce();
+    m_colours.ColourAll(LargeFile());
+    m_repaintEnabled = true;
+    viewport()->update();
+    OnSelChange();
+}
+
+int CodeHighlight::TextLength() const
+{
+    return m_mirror->Rope().TextLength();
+}
+
+int CodeHighlight::SelStart() const
+{
+    return m_mirror->Rope().ToTextPosition(textCursor().selectionStart());
+}
+
+void CodeHighlight::SetSelStart(int position)
+{
+    const int place = m_mirror->Rope().FromTextPosition(std::max(0, position));
+    Select(place, place);
+}
+
+int CodeHighlight::SelLength() const
+{
+    const QTextCursor cursor = textCursor();
+    if (!cursor.hasSelection())
+        return 0;
+    return m_mirror->Rope().ToTextPosition(cursor.selectionEnd()) - SelStart();
+}
+
+void CodeHighlight::SetSelLength(int length)
+{
+    const int start = textCursor().selectionStart();
+    const int end = m_mirror->Rope().ToTextPosition(start) + std::max(0, length);
+    Select(start, m_mirror->Rope().FromTextPosition(end));
+}
+
+QString CodeHighlight::SelText() const
+{
+    const QTextCursor cursor = textCursor();
+    const int start = cursor.selectionStart();
+    return TextOf(m_mirror->Rope().Mid(start, cursor.selectionEnd() - start));
+}
+
+void CodeHighlight::SetSelText(const QString &text)
+{
+    const QTextCursor cursor = textCursor();
+    const int start = cursor.selectionStart();
+    const QString held = HeldText(text, m_mirror->UsualEnd());
+    if (text.size() > LargeFile())
+        TellLimitOnce();
+    ReplaceHeld(start, cursor.selectionEnd() - start, held);
+}
+
+void CodeHighlight::AddUndo()
+{
+    if (!m_undoBusy)
+        m_history.AddUndo(m_mirror->Rope(), SelStart());
+}
+
+void CodeHighlight::Undo()
+{
+    Restore(m_history.Undo());
+}
+
+void CodeHighlight::Redo()
+{
+    Restore(m_history.Redo());
+}
+
+void CodeHighlight::Restore(const std::optional<SnapshotHistory::Restored> &restored)
+{
+    if (!restored || IsReadOnlyPage())
+        return;
+    setUpdatesEnabled(false);
+    m_undoBusy = true;
+    m_textChanged = true;
+    m_repaintEnabled = false;
+    const PageMirror::Stretch stretch = m_mirror->Become(restored->text);
+    m_colours.ColourInContext(document()->findBlock(stretch.from),
+                              document()->findBlock(stretch.from + stretch.length),
+                              LargeFile());
+    m_undoBusy = false;
+    m_repaintEnabled = true;
+    if (restored->caret)
+        SetSelStart(*restored->caret);
+    setUpdatesEnabled(true);
+    OnSelChange();
+    ensureCursorVisible();
+    emit Restored();
+}
+
+bool CodeHighlight::Search(const QString &text, int start)
+{
+    if (text.isEmpty())
+        return false;
+    const qsizetype found = Text().indexOf(text, std::max(0, start), Qt::CaseInsensitive);
+    if (found < 0)
+        return false;
+    SetSelStart(int(found));
+    SetSelLength(int(text.size()));
+    ensureCursorVisible();
+    return true;
+}
+
+void CodeHighlight::SetFocus()
+{
+    setFocus(Qt::OtherFocusReason);
+}
+
+void CodeHighlight::SetLanguage(int language)
+{
+    if (!m_tables.SetLanguage(language))
+        return;
+    TellLimitOnce();
+    m_colours.ColourAll(LargeFile());
+    viewport()->update();
+}
+
+void CodeHighlight::AddWord(const QString &word, WordClass wordClass)
+{
+    m_tables.AddWord(word, wordClass);
+}
+
+void CodeHighlight::AddCommentTag(const QString &start, const QString &end)
+{
+    m_tables.AddCommentTag(start, end);
+}
+
+QString CodeHighlight::HighlightBlock(const QString &text)
+{
+    if (text.size() <= LargeFile())
+        return brenix::HighlightBlock(text, m_tables, m_syntaxColours);
+    TellLimitOnce();
+    return text;
+}
+
+// Shown when a page is too long to be coloured, the first time that this happens to the user.
+void CodeHighlight::TellLimitOnce()
+{
+    const bool tooLong = TextLength() > LargeFile();
+    if (!tooLong || Language() == SyntaxTables::None
+        || GetSetting(u"Settings", u"Bigfile", u"True"_s) != u"True")
+        return;
+    SaveSetting(u"Settings", u"Bigfile", u"False"_s);
+    MsgBox(u"This is very large! The syntax highlighter is to slow to color this document, so you "
+           "have to live without colors. But.. the syntaxhighlighter will still color your code as "
+           "you type. You can change how large a file shall be before Brenix turns off the "
+           "syntaxhighlighter using the LargeFile key under setting in the Brenix folder (%1) in "
+           "the system registry."_s.arg(SettingsFile()),
+           Buttons::Ok,
+           Icon::Information);
+}
+
+void CodeHighlight::SetColours(const SyntaxColours &colours)
+{
+    m_syntaxColours = colours;
+    m_colours.SetColours(colours);
+}
+
+void CodeHighlight::SetBackColor(quint32 colour)
+{
+    m_backColor = colour;
+    QPalette colours = palette();
+    const QColor background = ColourOf(colour);
+    // Text without a colour of its own is black or white, whichever can be read.
+    const bool dark = background.lightnessF() < 0.5;
+    colours.setColor(QPalette::Base, background);
+    colours.setColor(QPalette::Text, dark ? Qt::white : Qt::black);
+    setPalette(colours);
+}
+
+void CodeHighlight::SetFont(const QString &name, int points)
+{
+    QFont font(name);
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    if (points > 0)
+        font.setPointSize(points);
+    setFont(font);
+    setTabStopDistance(8 * QFontMetricsF(font).horizontalAdvance(u' '));
+    PlaceGutter();
+}
+
+void CodeHighlight::SetMargin(double twips)
+{
+    m_margin = twips;
+    setLineWrapMode(twips == 0 ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
+}
+
+int CodeHighlight::LineIndex() const
+{
+    return m_mirror->Rope().LineOf(Caret());
+}
+
+void CodeHighlight::SetLineIndex(int line)
+{
+    SetSelStart(std::abs(LineStartPos(line)));
+}
+
+QString CodeHighlight::Line(int) const
+{
+    const TextRope &rope = m_mirror->Rope();
+    const int line = LineIndex();
+    const int start = rope.LineStart(line);
+    return TextOf(rope.Mid(start, rope.LineFinish(line) - start));
+}
+
+int CodeHighlight::LineStartPos(int line) const
+{
+    const int start = m_mirror->Rope().LineStart(line);
+    return start < 0 ? -1 : m_mirror->Rope().ToTextPosition(start);
+}
+
+int CodeHighlight::LineLength(int position) const
+{
+    const TextRope &rope = m_mirror->Rope();
+    const int line = rope.LineOf(rope.FromTextPosition(position));
+    return rope.ToTextPosition(rope.LineFinish(line)) - rope.ToTextPosition(rope.LineStart(line));
+}
+
+int CodeHighlight::LineCount() const
+{
+    return m_mirror->Rope().LineCount();
+}
+
+int CodeHighlight::TopLineIndex() const
+{
+    return m_mirror->Rope().LineOf(firstVisibleBlock().position());
+}
+
+void CodeHighlight::Select(int anchor, int position)
+{
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(anchor);
+    cursor.setPosition(position, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void CodeHighlight::ReplaceHeld(int from, int length, const QString &held)
+{
+    const bool repaintEnabled = std::exchange(m_repaintEnabled, false);
+    m_textChanged = true;
+    m_lineEdited = true;
+    m_colours.Replace(from, length, held, LargeFile());
+    Select(from + int(held.size()), from + int(held.size()));
+    AfterEdit(from, int(held.size()));
+    m_repaintEnabled = repaintEnabled;
+}
+
+void CodeHighlight::AfterEdit(int from, int length)
+{
+    if (m_mirror->BreakLongBlocks(from, length))
+        m_colours.ColourInContext(
+            document()->findBlock(from), document()->findBlock(from + length), LargeFile());
+}
+
+// A caret or line number left over from before an edit must not stop the repaint of a shorter page.
+void CodeHighlight::RepaintLine(int line)
+{
+    const TextRope &rope = m_mirror->Rope();
+    const int start = rope.LineStart(line);
+    if (start < 0)
+        return;
+    NormaliseLine(line);
+    m_colours.ColourLineAlone(
+        document()->findBlock(start), document()->findBlock(rope.LineFinish(line)), LargeFile());
+    viewport()->update();
+}
+
+void CodeHighlight::NormaliseLine(int line)
+{
+    if (!m_giveCorrectCase || !m_lineEdited || !m_tables.NormalisesCase())
+        return;
+    const TextRope rope = m_mirror->Rope();
+    const int start = rope.LineStart(line);
+    const QString before = rope.Mid(start, rope.LineFinish(line) - start);
+    const QString after = WithNormalisedCase(before, m_tables);
+    if (after == before || after.size() > LargeFile())
+        return;
+    // Unit by unit, so that the caret stays between the same two characters.
+    m_textChanged = true;
+    const QTextCursor caret = textCursor();
+    const int anchor = caret.anchor();
+    const int position = caret.position();
+    for (qsizetype i = 0; i < after.size(); ++i) {
+        if (after[i] != before[i])
+            m_mirror->Replace(start + int(i), 1, after.sliced(i, 1));
+    }
+    Select(anchor, position);
+}
+
+void CodeHighlight::OnSelChange()
+{
+    const QTextCursor cursor = textCursor();
+    if (cursor.position() == m_caretBefore && cursor.anchor() == m_anchorBefore)
+        return;
+    if (!m_repaintEnabled)
+        return;
+    MoveOffSoftBreak();
+    m_caretBefore = Caret();
+    m_anchorBefore = textCursor().anchor();
+    if (!textCursor().hasSelection()) {
+        m_repaintEnabled = false;
+        const int line = LineIndex();
+        if (line != m_lastLine) {
+            RepaintLine(m_lastLine);
+            m_lineEdited = false;
+        }
+        m_lastLine = line;
+        m_repaintEnabled = true;
+    }
+    emit SelChange();
+}
+
+// Before and behind a soft break is one place of the text: the caret rests behind it.
+void CodeHighlight::MoveOffSoftBreak()
+{
+    QTextCursor cursor = textCursor();
+    if (cursor.hasSelection() || !cursor.atBlockEnd() || !m_mirror->EndsInSoftBreak(cursor.block()))
+        return;
+    const bool cameFromBehind = m_caretBefore == cursor.position() + 1;
+    cursor.movePosition(cameFromBehind ? QTextCursor::PreviousCharacter
+                                       : QTextCursor::NextCharacter);
+    const bool repaintEnabled = std::exchange(m_repaintEnabled, false);
+    setTextCursor(cursor);
+    m_repaintEnabled = repaintEnabled;
+}
+
+void CodeHighlight::OnScroll()
+{
+    const int top = TopLineIndex();
+    if (top == m_gutterTopLine)
+        return;
+    m_gutterTopLine = top;
+    m_gutter->update();
+    emit Scrolled();
+}
+
+void CodeHighlight::PlaceGutter()
+{
+    const int width = m_gutter->WidthFor(LineCount());
+    setViewportMargins(width, 0, 0, 0);
+    const QRect inner = contentsRect();
+    m_gutter->setGeometry(inner.left(), inner.top(), width, inner.height());
+}
+
+void CodeHighlight::resizeEvent(QResizeEvent *event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    PlaceGutter();
+}
+
+void CodeHighlight::paintEvent(QPaintEvent *event)
+{
+    LayVisibleLines();
+    QPlainTextEdit::paintEvent(event);
+}
+
+void CodeHighlight::LayVisibleLines()
+{
+    const qreal bottom = viewport()->height();
+    qreal top = contentOffset().y();
+    for (QTextBlock block = firstVisibleBlock(); block.isValid() && top <= bottom;
+         block = block.next()) {
+        m_colours.Lay(block);
+        top += blockBoundingRect(block).height();
+    }
+}
+
+QMimeData *CodeHighlight::createMimeDataFromSelection() const
+{
+    auto *data = new QMimeData;
+    data->setText(SelText().replace(u"\r\n"_s, u"\n"_s));
+    return data;
+}
+
+bool CodeHighlight::canInsertFromMimeData(const QMimeData *source) const
+{
+    return source->hasText() && !isReadOnly();
+}
+
+void CodeHighlight::insertFromMimeData(const QMimeData *source)
+{
+    if (!canInsertFromMimeData(source))
+        return;
+    AddUndo();
+    SetSelText(source->text());
+    ensureCursorVisible();
+}
+
+} // namespace brenix

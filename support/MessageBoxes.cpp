@@ -1,0 +1,234 @@
+#include "support/MessageBoxes.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace brenix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+    QString BoxTitle()
+    {
+        return u"Brenix"_s;
+    }
+
+    QMessageBox::StandardButtons StandardButtons(Buttons buttons)
+    {
+        switch (buttons) {
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons::Ok:
+            break;
+        }
+        return QMessageBox::Ok;
+    }
+
+    QMessageBox::StandardButton StandardButton(Answer answer)
+    {
+        switch (answer) {
+        case Answer::Cancel:
+            return QMessageBox::Cancel;
+        case Answer::Yes:
+            return QMessageBox::Yes;
+        case Answer::No:
+            return QMessageBox::No;
+        case Answer::Ok:
+            break;
+        }
+        return QMessageBox::Ok;
+    }
+
+    Answer AnswerOf(int button)
+    {
+        for (const Answer answer : {Answer::Cancel, Answer::Yes, Answer::No}) {
+            if (button == StandardButton(answer))
+                return answer;
+        }
+        return Answer::Ok;
+    }
+
+    QMessageBox::Icon BoxIcon(Icon icon)
+    {
+        switch (icon) {
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Warning:
+            return QMessageBox::Warning;
+        case Icon::Critical:
+            return QMessageBox::Critical;
+        case Icon::None:
+            break;
+        }
+        return QMessageBox::NoIcon;
+    }
+
+    Answer CloseAnswer(Buttons buttons)
+    {
+        switch (buttons) {
+        case Buttons::OkCancel:
+        case Buttons::YesNoCancel:
+            return Answer::Cancel;
+        case Buttons::YesNo:
+            return Answer::No;
+        case Buttons::Ok:
+            break;
+        }
+        return Answer::Ok;
+    }
+
+    /// A file name or a tag in the text is no markup of the box.
+    void SetUp(QMessageBox *box, const QString &text, Icon icon)
+    {
+        box->setObjectName(u"MsgBox"_s);
+        box->setWindowTitle(BoxTitle());
+        box->setTextFormat(Qt::PlainText);
+        box->setText(text);
+        box->setIcon(BoxIcon(icon));
+    }
+
+    /// "a|*.x;*.y||b|*.z" as "a (*.x *.y)" and "b (*.z)".
+    QStringList NameFilters(const QString &filter)
+    {
+        QStringList filters;
+        QString caption;
+        const QStringList parts = filter.split(u'|');
+        for (const QString &part : parts) {
+            if (caption.isEmpty()) {
+                // An empty caption has no patterns behind it: the next part is a caption again.
+                caption = part.trimmed();
+                continue;
+            }
+            QStringList patterns;
+            const QStringList pieces = part.split(u';', Qt::SkipEmptyParts);
+            for (const QString &piece : pieces) {
+                // Every name is meant; here "*.*" would leave out the names without a point.
+                patterns += piece.trimmed() == u"*.*"_s ? u"*"_s : piece.trimmed();
+            }
+            if (!patterns.isEmpty())
+                filters += caption + u" ("_s + patterns.join(u' ') + u')';
+            caption.clear();
+        }
+        return filters;
+    }
+
+    /// The folder of the last choice, where the next one begins.
+    QString &LastFolder()
+    {
+        static QString folder;
+        return folder;
+    }
+
+    void ProposeName(QFileDialog *chooser, const QString &name)
+    {
+        // "*.html" is a pattern, which the dialog would take for the name to use.
+        if (!name.isEmpty() && !name.contains(u'*') && !name.contains(u'?'))
+            chooser->selectFile(QDir::fromNativeSeparators(name));
+    }
+
+    QString RunFileDialog(const FileDialog &dialog, QFileDialog::AcceptMode mode)
+    {
+        QFileDialog chooser(QApplication::activeWindow());
+        chooser.setObjectName(u"FileDialog"_s);
+        if (!dialog.title.isEmpty())
+            chooser.setWindowTitle(dialog.title);
+        chooser.setAcceptMode(mode);
+        const bool isOpen = mode == QFileDialog::AcceptOpen;
+        chooser.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+        // The captions name their patterns themselves.
+        chooser.setOption(QFileDialog::HideNameFilterDetails);
+        chooser.setNameFilters(NameFilters(dialog.filter));
+        chooser.setDefaultSuffix(dialog.defaultSuffix);
+        if (!LastFolder().isEmpty())
+            chooser.setDirectory(LastFolder());
+        ProposeName(&chooser, dialog.name);
+        if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
+            return {};
+        const QString path = chooser.selectedFiles().constFirst();
+        LastFolder() = QFileInfo(path).absolutePath();
+        return QDir::toNativeSeparators(path);
+    }
+
+} // namespace
+
+ScriptedAnswers &Scripted()
+{
+    static ScriptedAnswers answers;
+    return answers;
+}
+
+Answer MsgBox(const QString &text, Buttons buttons, Icon icon)
+{
+    const bool isOk = buttons == Buttons::Ok || buttons == Buttons::OkCancel;
+    return MsgBox(text, buttons, icon, isOk ? Answer::Ok : Answer::Yes);
+}
+
+Answer MsgBox(const QString &text, Buttons buttons, Icon icon, Answer defaultAnswer)
+{
+    if (Scripted().msgBox)
+        return Scripted().msgBox(text, buttons, icon);
+    QMessageBox box(QApplication::activeWindow());
+    SetUp(&box, text, icon);
+    box.setStandardButtons(StandardButtons(buttons));
+    box.setDefaultButton(StandardButton(defaultAnswer));
+    box.setEscapeButton(StandardButton(CloseAnswer(buttons)));
+    return AnswerOf(box.exec());
+}
+
+int ChooseBox(const QString &text, const QStringList &captions, Icon icon)
+{
+    if (Scripted().chooseBox)
+        return Scripted().chooseBox(text, captions);
+    QMessageBox box(QApplication::activeWindow());
+    SetUp(&box, text, icon);
+    QList<QAbstractButton *> buttons;
+    for (const QString &caption : captions)
+        buttons += box.addButton(caption, QMessageBox::AcceptRole);
+    // A box without a button for Esc cannot be closed; this one is not seen.
+    QPushButton *closed = box.addButton(QMessageBox::Cancel);
+    closed->hide();
+    box.setEscapeButton(closed);
+    box.exec();
+    return int(buttons.indexOf(box.clickedButton()));
+}
+
+QString InputBox(const QString &prompt, const QString &proposal)
+{
+    if (Scripted().inputBox)
+        return Scripted().inputBox(prompt, proposal);
+    QInputDialog box(QApplication::activeWindow());
+    box.setObjectName(u"InputBox"_s);
+    box.setWindowTitle(BoxTitle());
+    box.setLabelText(prompt);
+    box.setTextValue(proposal);
+    if (auto *label = box.findChild<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
+    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+}
+
+QString OpenFileName(const FileDialog &dialog)
+{
+    return Scripted().openFileName ? Scripted().openFileName(dialog)
+                                   : RunFileDialog(dialog, QFileDialog::AcceptOpen);
+}
+
+QString SaveFileName(const FileDialog &dialog)
+{
+    return Scripted().saveFileName ? Scripted().saveFileName(dialog)
+                                   : RunFileDialog(dialog, QFileDialog::AcceptSave);
+}
+
+} // namespace brenix

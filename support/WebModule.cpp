@@ -1,0 +1,112 @@
+#include "support/WebModule.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QOpenGLContext>
+#include <QPluginLoader>
+
+#include <utility>
+
+QT_BEGIN_NAMESPACE
+// Qt offers this to its own modules without a header.
+Q_GUI_EXPORT void qt_gl_set_global_share_context(QOpenGLContext *context);
+QT_END_NAMESPACE
+
+namespace brenix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+    constexpr char quickBackend[] = "QT_QUICK_BACKEND";
+
+    struct LoadedModule
+    {
+        WebModule *module = nullptr;
+        QString error;
+    };
+
+    bool HasGraphicsCard()
+    {
+#ifdef Q_OS_LINUX
+        return !QDir(u"/dev/dri"_s).entryList({u"renderD*"_s}, QDir::System).isEmpty();
+#else
+        return true;
+#endif
+    }
+
+    QString ModuleFile()
+    {
+#if defined(Q_OS_WIN)
+        const QString name = u"brenix-web.dll"_s;
+#else
+        const QString name = u"brenix-web.so"_s;
+#endif
+        const QString programFolder = QCoreApplication::applicationDirPath();
+        for (const QString &folder : {u"/"_s, u"/../lib/brenix/"_s})
+            if (QFile::exists(programFolder + folder + name))
+                return programFolder + folder + name;
+        return {};
+    }
+
+    // The engine crashes without a context to share. Qt's own switch for it must be set before the
+    // application object and then triples the time until the window stands, because it sets up
+    // OpenGL; so the context is made here. When the engine draws in software it only asks the
+    // context for its format, and the costly part can be left out.
+    void ShareGraphicsContext()
+    {
+        static QOpenGLContext *context = nullptr;
+        if (context || QOpenGLContext::globalShareContext())
+            return;
+        context = new QOpenGLContext;
+        if (qgetenv(quickBackend) != "software")
+            context->create();
+        qt_gl_set_global_share_context(context);
+        qAddPostRoutine([] {
+            qt_gl_set_global_share_context(nullptr);
+            delete std::exchange(context, nullptr);
+        });
+    }
+
+    LoadedModule Load()
+    {
+        const QString file = ModuleFile();
+        if (file.isEmpty())
+            return {nullptr, u"The web engine module (brenix-web) is not installed."_s};
+        ShareGraphicsContext();
+        QPluginLoader loader(file);
+        auto *module = qobject_cast<WebModule *>(loader.instance());
+        if (module)
+            return {module, {}};
+        return {nullptr,
+                loader.isLoaded() ? u"%1 is not a web engine module."_s.arg(file)
+                                  : loader.errorString()};
+    }
+
+    const LoadedModule &TheModule()
+    {
+        static const LoadedModule loaded = Load();
+        return loaded;
+    }
+
+} // namespace
+
+WebModule *LoadWebModule()
+{
+    return TheModule().module;
+}
+
+QString WebModuleError()
+{
+    return TheModule().error;
+}
+
+void PrepareForWebModule()
+{
+    // Software OpenGL would make every key press in the window with the page many times dearer.
+    if (!qEnvironmentVariableIsSet(quickBackend) && !HasGraphicsCard())
+        qputenv(quickBackend, "software");
+}
+
+} // namespace brenix
