@@ -104,4 +104,12 @@ MainMenu::MainMenu(QMenuBar *bar, const Commands &commands)
     }
 }
 
+void MainMenu::SetCaption(const QString &name, const QString &caption)
+{
+    if (QMenu *menu = m_menus.value(name))
+        menu->setTitle(caption);
+    else if (QAction *action = m_actions.value(name))
+        action->setText(caption);
+}
+
 } // namespace brenix

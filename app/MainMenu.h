@@ -22,6 +22,8 @@ public:
 
     MainMenu(QMenuBar *bar, const Commands &commands);
 
+    /// Gives an item or a menu another caption; a name that the tree lacks is passed over.
+    void SetCaption(const QString &name, const QString &caption);
     /// The action of a menu name; null when the tree has none.
     QAction *ActionOf(const QString &name) const { return m_actions.value(name); }
     QMenu *MenuOf(const QString &name) const { return m_menus.value(name); }

@@ -33,18 +33,19 @@ namespace {
         const char16_t *icon; // empty for a separator
         const char16_t *tip;
         const char16_t *command;
+        const char16_t *menuName = u""; // a caption of the language file for it is the tip as well
     };
     constexpr ToolButton StandardButtons[] = {
-        {u"New", u"New", u"NewHtmlDocument"},
-        {u"Open", u"Open", u"OpenDocument"},
-        {u"Save", u"Save", u"mnuFileSave"},
+        {u"New", u"New", u"NewHtmlDocument", u"mnuFileNew"},
+        {u"Open", u"Open", u"OpenDocument", u"mnuFileOpen"},
+        {u"Save", u"Save", u"mnuFileSave", u"mnuFileSave"},
         {u"", u"", u""},
-        {u"Undo", u"Undo", u"mnuEditUndo"},
-        {u"Redo", u"Redo", u"mnuEditmnuEditRedo"},
+        {u"Undo", u"Undo", u"mnuEditUndo", u"mnuEditUndo"},
+        {u"Redo", u"Redo", u"mnuEditmnuEditRedo", u"mnuEditmnuEditRedo"},
         {u"", u"", u""},
-        {u"Cut", u"Cut", u"mnuEditCut"},
-        {u"Copy", u"Copy", u"mnuEditCopy"},
-        {u"Paste", u"Paste", u"mnuEditPaste"},
+        {u"Cut", u"Cut", u"mnuEditCut", u"mnuEditCut"},
+        {u"Copy", u"Copy", u"mnuEditCopy", u"mnuEditCopy"},
+        {u"Paste", u"Paste", u"mnuEditPaste", u"mnuEditPaste"},
     };
     constexpr int StartButtons = 2; // of the bar that shows when no document is open
 

@@ -79,6 +79,7 @@ private:
     void AddWindowCommands(MainMenu::Commands &commands);
 
     // start and end
+    void ReadLanguageFile();
     void ReadTabs();
     void CheckDirectories();
     void ReadLargeFile();
@@ -131,6 +132,7 @@ private:
     QLabel *m_modifiedPanel = nullptr;
     QLabel *m_previewText = nullptr;
     MainMenu::Commands m_commands;
+    QHash<QString, QString> m_toolTips; // by menu name, from the language file
     std::unique_ptr<MainMenu> m_menu;
     QList<QAction *> m_windowItems;
     int m_documentCounter = 0;

@@ -1,5 +1,6 @@
 #include "app/DesignBar.h"
 #include "app/Documents.h"
+#include "app/LanguageFile.h"
 #include "app/NewDocumentPane.h"
 #include "app/RecentFiles.h"
 #include "app/Toolbox.h"
@@ -12,6 +13,7 @@
 #include "support/Paths.h"
 #include "support/SettingsStore.h"
 #include "support/SourceView.h"
+#include "support/TextCodec.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -62,6 +64,7 @@ namespace {
 void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
 {
     splash.Say(u"Reading Language..."_s);
+    ReadLanguageFile();
     if (commandLine.startFirst && GetSetting(u"Settings", u"Coolbar1", u"Hei"_s) != u"Hei")
         SaveSetting(u"Settings", u"Coolbar1", u"Hei"_s);
     splash.Say(u"Reading version..."_s);
@@ -98,6 +101,16 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
     OpenAtStart(splash, commandLine);
     splash.Say(u"Loading tips..."_s);
     ShowTips();
+}
+
+void frmMain::ReadLanguageFile()
+{
+    const FileContent file = ReadAuthorFile(AppPath(u"language.lng"));
+    ReadLanguage(DecodePage(file.bytes, {}).text,
+                 [this](const QString &name, const QString &caption) {
+                     m_menu->SetCaption(name, caption);
+                     m_toolTips.insert(name, QString(caption).remove(u'&').remove(u"..."_s));
+                 });
 }
 
 void frmMain::ReadTabs()

@@ -41,7 +41,9 @@ void Gutter::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), palette().window());
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawLine(width() - Gap, 0, width() - Gap, height());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+    QColor ink = palette().color(QPalette::WindowText);
+    ink.setAlphaF(0.6F);
+    painter.setPen(ink);
     painter.setFont(m_editor.font());
 
     // Numbers stand beside the first piece of their line; behind the last line they go on at the

@@ -46,8 +46,9 @@ namespace {
             return programFolder.path();
         const QString folder
             = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Brenix"_s;
-        QDir().mkpath(folder);
-        CopyMissingFiles(QDir(QDir::cleanPath(installed.path())), QDir(folder));
+        // Only at the first start: what the user has deleted since stays deleted.
+        if (!QDir(folder).exists(u"Skins"_s) && QDir().mkpath(folder))
+            CopyMissingFiles(QDir(QDir::cleanPath(installed.path())), QDir(folder));
         return folder;
     }
 

@@ -86,7 +86,8 @@ void PreviewPage::AllowBoxes()
 void PreviewPage::BeginAt(QPointF position)
 {
     BeginAnywhere();
-    const QString code = placePage.toString().arg(position.x()).arg(position.y());
+    const QString code
+        = placePage.toString().arg(position.x(), 0, 'f', 2).arg(position.y(), 0, 'f', 2);
     scripts().insert(OwnScript(placeName, code, QWebEngineScript::DocumentReady));
 }
 

@@ -70,9 +70,10 @@ void WebEngineView::Navigate(const QString &address)
 
 void WebEngineView::Refresh()
 {
-    if (m_shown.isEmpty())
-        return;
-    m_wanted = {ShownAddress(), m_shown};
+    if (!m_wanted && m_loading)
+        m_wanted = m_target;
+    else if (!m_wanted && !m_shown.isEmpty())
+        m_wanted = {ShownAddress(), m_shown};
     m_restarts = 0;
     m_start.start(0);
 }
@@ -209,7 +210,7 @@ void WebEngineView::Load(const Target &target)
         m_patience.start();
     // A reload adds no step to the history, and the engine puts the page in place before it is
     // first painted.
-    if (again && m_page->url() == m_shown)
+    if (again && !m_page->url().isEmpty())
         m_page->triggerAction(QWebEnginePage::Reload);
     else
         m_page->load(target.url);

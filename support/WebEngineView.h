@@ -60,7 +60,7 @@ private:
 
     std::shared_ptr<QWebEngineProfile> m_profile;
     PreviewPage *m_page = nullptr;
-    // What the page tells is for this object: without it, a page that goes is no longer listened to.
+    // What the page tells is for this object: without it, a page that goes is not listened to.
     std::unique_ptr<QObject> m_listener;
     std::optional<Target> m_wanted;
     Target m_target;
