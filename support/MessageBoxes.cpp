@@ -1,6 +1,7 @@
 #include "support/MessageBoxes.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -229,6 +230,17 @@ QString SaveFileName(const FileDialog &dialog)
 {
     return Scripted().saveFileName ? Scripted().saveFileName(dialog)
                                    : RunFileDialog(dialog, QFileDialog::AcceptSave);
+}
+
+std::optional<quint32> ChooseColour(quint32 colour)
+{
+    if (Scripted().chooseColour)
+        return Scripted().chooseColour(colour);
+    const QColor start(int(colour & 0xFF), int(colour >> 8 & 0xFF), int(colour >> 16 & 0xFF));
+    const QColor chosen = QColorDialog::getColor(start, QApplication::activeWindow());
+    if (!chosen.isValid())
+        return std::nullopt;
+    return quint32(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
 }
 
 } // namespace brenix

@@ -1,0 +1,267 @@
+#include "support/Form.h"
+
+#include "support/ColourButton.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace brenix {
+
+namespace {
+
+    constexpr int ControlColumn = 1;
+    constexpr int ButtonColumn = 2;
+    constexpr int Columns = 3;
+
+    QString PlainCaption(const QString &caption)
+    {
+        QString plain = caption;
+        plain.remove(u'&');
+        return plain.endsWith(u':') ? plain.chopped(1) : plain;
+    }
+
+} // namespace
+
+Form::Form(QWidget *page)
+    : m_page(page)
+    , m_grid(new QGridLayout(page))
+{
+    m_grid->setColumnStretch(ControlColumn, 1);
+}
+
+template <typename Control>
+Control *Form::AddRow(const char16_t *name, const QString &caption, Control *control)
+{
+    const int row = m_grid->rowCount();
+    control->setObjectName(QString::fromUtf16(name));
+    control->setAccessibleName(PlainCaption(caption));
+    auto *label = new QLabel(caption, m_page);
+    label->setBuddy(control);
+    m_grid->addWidget(label, row, 0);
+    m_grid->addWidget(control, row, ControlColumn);
+    return control;
+}
+
+void Form::Bind(std::function<void()> load, std::function<void()> store)
+{
+    load();
+    m_bindings.push_back({std::move(load), std::move(store)});
+}
+
+QLineEdit *Form::Text(const char16_t *name, const QString &caption, QString &field)
+{
+    auto *box = AddRow(name, caption, new QLineEdit(m_page));
+    Bind([box, &field] { box->setText(field); }, [box, &field] { field = box->text(); });
+    return box;
+}
+
+QCheckBox *Form::Check(const char16_t *name, const QString &caption, bool &field)
+{
+    auto *box = new QCheckBox(caption, m_page);
+    box->setObjectName(QString::fromUtf16(name));
+    Add(box);
+    Bind([box, &field] { box->setChecked(field); }, [box, &field] { field = box->isChecked(); });
+    return box;
+}
+
+QComboBox *Form::Choice(const char16_t *name,
+                        const QString &caption,
+                        const QStringList &items,
+                        QString &field)
+{
+    auto *box = AddRow(name, caption, new QComboBox(m_page));
+    box->addItems(items);
+    Bind([box, &field] { box->setCurrentText(field); },
+         [box, &field] { field = box->currentText(); });
+    return box;
+}
+
+QComboBox *Form::Combo(const char16_t *name,
+                       const QString &caption,
+                       const QStringList &items,
+                       QString &field)
+{
+    auto *box = AddRow(name, caption, new QComboBox(m_page));
+    box->setEditable(true);
+    box->addItems(items);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->completer()->setCaseSensitivity(Qt::CaseSensitive);
+    Bind([box, &field] { box->setEditText(field); }, [box, &field] { field = box->currentText(); });
+    return box;
+}
+
+QSpinBox *Form::Number(
+    const char16_t *name, const QString &caption, int least, int most, int &field)
+{
+    auto *box = AddRow(name, caption, new QSpinBox(m_page));
+    box->setRange(least, most);
+    Bind([box, &field] { box->setValue(field); }, [box, &field] { field = box->value(); });
+    return box;
+}
+
+QListWidget *Form::List(const char16_t *name,
+                        const QString &caption,
+                        const QStringList &items,
+                        QString &field)
+{
+    if (!caption.isEmpty())
+        Note(caption);
+    auto *list = new QListWidget(m_page);
+    list->setObjectName(QString::fromUtf16(name));
+    list->setAccessibleName(PlainCaption(caption));
+    list->addItems(items);
+    Add(list, 1);
+    Bind(
+        [list, &field] {
+            const QList<QListWidgetItem *> found = list->findItems(field, Qt::MatchFixedString);
+            list->setCurrentItem(found.value(0));
+        },
+        [list, &field] { field = list->currentItem() ? list->currentItem()->text() : QString(); });
+    return list;
+}
+
+ColourButton *Form::Colour(const char16_t *name, const QString &caption, quint32 &field)
+{
+    auto *button = AddRow(name, caption, new ColourButton(m_page));
+    Bind([button, &field] { button->SetColour(field); },
+         [button, &field] { field = button->Colour(); });
+    return button;
+}
+
+void Form::Options(const QList<Option> &options, int &field)
+{
+    auto *group = new QButtonGroup(m_page);
+    for (const Option &option : options) {
+        auto *button = new QRadioButton(option.caption, m_page);
+        button->setObjectName(QString::fromUtf16(option.name));
+        group->addButton(button, option.value);
+        Add(button);
+    }
+    Bind(
+        [group, &field] {
+            if (QAbstractButton *button = group->button(field))
+                button->setChecked(true);
+        },
+        [group, &field] {
+            if (group->checkedId() >= 0)
+                field = group->checkedId();
+        });
+}
+
+QPushButton *Form::NewButton(const char16_t *name,
+                             const QString &caption,
+                             std::function<void()> clicked)
+{
+    auto *button = new QPushButton(caption, m_page);
+    button->setObjectName(QString::fromUtf16(name));
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button, std::move(clicked));
+    return button;
+}
+
+QPushButton *Form::Button(const char16_t *name,
+                          const QString &caption,
+                          std::function<void()> clicked)
+{
+    QPushButton *button = NewButton(name, caption, std::move(clicked));
+    m_grid->addWidget(button, m_grid->rowCount(), 0, 1, Columns, Qt::AlignLeft);
+    return button;
+}
+
+QPushButton *Form::ButtonBeside(const char16_t *name,
+                                const QString &caption,
+                                std::function<void()> clicked)
+{
+    QPushButton *button = NewButton(name, caption, std::move(clicked));
+    m_grid->addWidget(button, m_grid->rowCount() - 1, ButtonColumn);
+    return button;
+}
+
+QLabel *Form::Note(const QString &text)
+{
+    auto *label = new QLabel(text, m_page);
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    Add(label);
+    return label;
+}
+
+void Form::Add(QWidget *control, int stretch)
+{
+    const int row = m_grid->rowCount();
+    m_grid->addWidget(control, row, 0, 1, Columns);
+    m_grid->setRowStretch(row, stretch);
+}
+
+void Form::AddStretch()
+{
+    m_grid->setRowStretch(m_grid->rowCount(), 1);
+}
+
+void Form::Load() const
+{
+    for (const Binding &binding : m_bindings)
+        binding.load();
+}
+
+void Form::Store() const
+{
+    for (const Binding &binding : m_bindings)
+        binding.store();
+}
+
+FormDialog::FormDialog(const char16_t *name, const QString &title, QWidget *parent)
+    : QDialog(parent)
+    , m_page(new QWidget(this))
+    , m_form(m_page)
+{
+    setObjectName(QString::fromUtf16(name));
+    setWindowTitle(title);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_page, 1);
+    m_page->layout()->setContentsMargins(0, 0, 0, 0);
+}
+
+void FormDialog::AddButtons(const ButtonNames &names, std::function<void()> help)
+{
+    auto *row = new QDialogButtonBox(this);
+    const auto add =
+        [row](QDialogButtonBox::StandardButton kind, const QString &caption, const char16_t *name) {
+            QPushButton *button = row->addButton(kind);
+            button->setText(caption);
+            button->setObjectName(QString::fromUtf16(name));
+            return button;
+        };
+    add(QDialogButtonBox::Ok, QStringLiteral("&OK"), names.ok)->setDefault(true);
+    connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    if (names.cancel) {
+        add(QDialogButtonBox::Cancel, QStringLiteral("&Cancel"), names.cancel);
+        connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    }
+    if (names.help && help) {
+        add(QDialogButtonBox::Help, QStringLiteral("&Help"), names.help);
+        connect(row, &QDialogButtonBox::helpRequested, this, std::move(help));
+    }
+    layout()->addWidget(row);
+}
+
+void FormDialog::accept()
+{
+    m_form.Store();
+    if (Accepted())
+        QDialog::accept();
+}
+
+} // namespace brenix
