@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 #include <functional>
@@ -22,6 +23,9 @@ public:
 
     MainMenu(QMenuBar *bar, const Commands &commands);
 
+    /// Enables or disables an item, or a menu with all its items; what has nothing to run stays
+    /// disabled.
+    void Enable(const QString &name, bool enabled);
     /// Gives an item or a menu another caption; a name that the tree lacks is passed over.
     void SetCaption(const QString &name, const QString &caption);
     /// The action of a menu name; null when the tree has none.
@@ -31,6 +35,7 @@ public:
 private:
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;
+    QSet<QString> m_working; // items that have something to run
 };
 
 } // namespace brenix

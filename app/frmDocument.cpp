@@ -60,6 +60,8 @@ frmDocument::frmDocument(MainWindowBars &bars, const QString &caption, QWidget *
     BuildViewBar();
     for (QTimer *timer : {&m_refresher, &m_copyWriter, &m_previewStart})
         timer->setSingleShot(true);
+    m_autoSave.setParent(this);
+    m_autoSave.setObjectName(u"AutoSave"_s);
     ConnectFields();
     ConfigureSource();
     Caption = caption;

@@ -83,6 +83,7 @@ private:
     void ReadTabs();
     void CheckDirectories();
     void ReadLargeFile();
+    void ShowFtpCommand();
     void RestoreWindow();
     void OpenAtStart(frmSplash &splash, const CommandLine &commandLine);
     void OpenLastEdited();
@@ -110,6 +111,7 @@ private:
     void ShowCaret();
     void ShowToolbox(bool shown);
     void ShowNewDocumentPane(const QString &notice);
+    void FillBrowserMenu();
     void TileWindows(Qt::Orientation orientation);
     void ArrangeIcons();
     void ResizeToScreen(const QString &screen);

@@ -1,5 +1,7 @@
 #include "app/AddressBar.h"
+#include "app/ExternalBrowser.h"
 #include "app/NewDocumentPane.h"
+#include "app/PrintSource.h"
 #include "app/Toolbox.h"
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
@@ -24,6 +26,17 @@ namespace brenix {
 namespace {
 
     constexpr int ForcedRefresh = 50; // ms
+
+    // What needs a document: items, and whole menus. The font menu's other items have nothing to do
+    // without one either.
+    // clang-format off
+    constexpr const char16_t *DocumentItems[] = {
+        u"mnuFileClose", u"mnuFileSaveAs", u"mnuFileSave", u"mnuSaveAsTemplate", u"mnuFileSaveAll",
+        u"mnuFilePrint", u"mnuFilePageSetup", u"mnuEdit", u"mnuInsert", u"mnuView", u"mnuWindow",
+        u"mnuViewInBrowser", u"mnuSplit", u"mnuCheckLinks", u"mnuPageOverview", u"mnuEstimated", u"mnuSelectTag",
+        u"mnuTagDesigner", u"mnuStripTags", u"mnuRTF2HTML", u"mnuCompressSource", u"mnuHelpTag",
+    };
+    // clang-format on
 
     void Copy(const CodeHighlight &source)
     {
@@ -72,6 +85,10 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
     commands[u"mnuFileSaveAs"_s]
         = [this] { ForActive([](frmDocument &document) { document.SaveAs(u"Save As"_s); }); };
     commands[u"mnuSaveAsTemplate"_s] = [this] { SaveAsTemplate(); };
+    commands[u"mnuFilePageSetup"_s] = [this] { PageSetup(this); };
+    commands[u"mnuFilePrint"_s] = [this] {
+        ForActive([this](frmDocument &document) { PrintSource(document.Source(), this); });
+    };
     commands[u"mnuFileExit"_s] = [this] { close(); };
 }
 
@@ -164,6 +181,26 @@ void frmMain::AddWindowCommands(MainMenu::Commands &commands)
     };
 }
 
+// Captions from the options; an entry without a program can't be chosen.
+void frmMain::FillBrowserMenu()
+{
+    QMenu *menu = m_menu->MenuOf(u"mnuViewInBrowser"_s);
+    menu->clear();
+    for (int number = 1; number <= BrowserCount; ++number) {
+        const ExternalBrowser browser = BrowserAt(number);
+        QAction *item = menu->addAction(QString(browser.name).replace(u'&', u"&&"_s));
+        item->setObjectName(u"mnuBrowser"_s + QString::number(number));
+        item->setEnabled(!browser.path.isEmpty());
+        connect(item, &QAction::triggered, this, [this, number] {
+            ForActive([&](frmDocument &document) {
+                document.WritePreview();
+                if (!document.Banen().isEmpty())
+                    StartBrowser(BrowserAt(number), document.Banen());
+            });
+        });
+    }
+}
+
 // Rows one above the other, or columns side by side.
 void frmMain::TileWindows(Qt::Orientation orientation)
 {
@@ -214,15 +251,8 @@ void frmMain::TickViewMenu()
 
 void frmMain::EnableDocumentCommands(bool enabled)
 {
-    for (const QString &name :
-         {u"mnuFileClose"_s, u"mnuFileSaveAs"_s, u"mnuFileSave"_s, u"mnuSaveAsTemplate"_s})
-        m_menu->ActionOf(name)->setEnabled(enabled);
-    for (const QString &name : {u"mnuEdit"_s, u"mnuView"_s, u"mnuTools"_s, u"mnuWindow"_s}) {
-        m_menu->MenuOf(name)->menuAction()->setEnabled(enabled);
-        // A disabled menu does not stop the shortcuts of its items.
-        for (QAction *action : m_menu->MenuOf(name)->actions())
-            action->setEnabled(enabled);
-    }
+    for (const char16_t *name : DocumentItems)
+        m_menu->Enable(QString::fromUtf16(name), enabled);
     if (!m_noWindows)
         return;
     m_noWindows->setVisible(!enabled);

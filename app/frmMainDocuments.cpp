@@ -27,7 +27,7 @@ namespace {
 
     constexpr char16_t OpenFilter[]
         = u"HTML files (*.html,*.htm,*.shtml)|*.htm;*.html;*.shtml|CSS files (*.css)|*.css|"
-          u"JavaScript file (*.js,*.jss)|*.jss;*.js|VBScript files (*.vbs)|*.vbs|ASP files "
+          u"JavaScript files (*.js,*.jss)|*.jss;*.js|VBScript files (*.vbs)|*.vbs|ASP files "
           u"(*.asp)|*.asp|"
           u"ColdFusion markup files (*.cfm)|*.cfm|PHP files (*.php,*.php3,*.pht,*.phtml)|"
           u"*.php;*.php3;*.pht;*.phtml|SGML files (*.xml,*.dtd,*.xsl)|*.xml;*.dtd;*.xsl|CGI files "

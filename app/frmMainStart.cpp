@@ -88,10 +88,12 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
     splash.Say(u"Getting Templates information..."_s);
     m_newDocumentPane->SetTemplates(QDir(AppPath(u"Templates")).entryList(QDir::Files, QDir::Name));
     splash.Say(u"Loading browserlist..."_s);
+    FillBrowserMenu();
     m_designBar->FillSizes();
     // The design bar reads them when it is first shown.
     splash.Say(u"Loading and sorting fonts..."_s);
     splash.Say(u"Preparing user interface..."_s);
+    ShowFtpCommand();
     RestoreWindow();
     splash.Say(u"Loading taglist..."_s);
     splash.Say(u"Loading TidyTools presets..."_s);
@@ -135,6 +137,14 @@ void frmMain::ReadLargeFile()
         SaveNumber(u"LargeFile", DefaultLargeFile);
     SetLargeFile(
         GetNumberSetting(u"Settings", u"LargeFile", DefaultLargeFile).value_or(DefaultLargeFile));
+}
+
+void frmMain::ShowFtpCommand()
+{
+    const QString name = GetSetting(u"Settings", u"FTPName");
+    m_menu->SetCaption(u"mnuFTP"_s, name);
+    for (const QString &item : {u"mnuFTP"_s, u"fg4"_s})
+        m_menu->ActionOf(item)->setVisible(!name.isEmpty());
 }
 
 void frmMain::RestoreWindow()

@@ -293,6 +293,14 @@ void CodeHighlight::SetMargin(double twips)
     setLineWrapMode(twips == 0 ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
 }
 
+void CodeHighlight::SelPrint(QPagedPaintDevice *printer)
+{
+    // Lines that were never shown have no colours yet.
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        m_colours.Lay(block);
+    print(printer);
+}
+
 int CodeHighlight::LineIndex() const
 {
     return m_mirror->Rope().LineOf(Caret());

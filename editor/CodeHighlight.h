@@ -79,6 +79,9 @@ public:
     /// The encoding of files that do not tell theirs.
     void CharCode(const QString &code) { m_charCode = code.toLatin1(); }
 
+    /// Prints the text, or its selection where the printer is set to that, with its colours.
+    void SelPrint(QPagedPaintDevice *printer);
+
     int LineIndex() const;
     /// To the line's start; for a line that does not exist to position 1.
     void SetLineIndex(int line);

@@ -106,6 +106,12 @@ void CodeHighlight::keyPressEvent(QKeyEvent *event)
     emit KeyDown(keyCode, shift);
     if (keyCode == 0 && pressed != 0)
         return;
+    // The box would enter the letter of an access key that no menu has taken.
+    if (event->modifiers().testFlag(Qt::AltModifier) && IsShortcut(*event)
+        && !event->text().isEmpty()) {
+        event->ignore();
+        return;
+    }
     if (isReadOnly()) {
         QPlainTextEdit::keyPressEvent(event);
         return;
@@ -130,16 +136,19 @@ void CodeHighlight::keyPressEvent(QKeyEvent *event)
             return;
     }
 
-    if (!HandleDeletion(event, pressed) && !EnterCharacter(event, pressed, keyAscii, keyAscii != entered))
+    if (!HandleDeletion(event, pressed)
+        && !EnterCharacter(event, pressed, keyAscii, keyAscii != entered))
         QPlainTextEdit::keyPressEvent(event);
     AfterEdit(Caret(), 0);
     OnSelChange();
 }
 
-// True when the key has been entered; a plain character in a box without a selection is left to the box itself.
+// True when the key has been entered; a plain character in a box without a selection is left to the
+// box itself.
 bool CodeHighlight::EnterCharacter(QKeyEvent *event, int keyCode, int keyAscii, bool changedByHost)
 {
-    const bool enters = keyAscii >= u' ' || keyCode == VirtualKey::Return || keyCode == VirtualKey::Tab;
+    const bool enters
+        = keyAscii >= u' ' || keyCode == VirtualKey::Return || keyCode == VirtualKey::Tab;
     if (!enters || IsShortcut(*event))
         return false;
     if (keyCode == VirtualKey::Return)

@@ -25,8 +25,9 @@ namespace {
 
     // Cuts at every line end; `unitFor` says what unit stands for an end of the given length that
     // begins with `first`.
-    template <typename UnitFor> QString Held(QStringView text, UnitFor unitFor)
+    template <typename UnitFor> QString Held(QStringView pageText, UnitFor unitFor)
     {
+        const QString text = WithStandIns(pageText.toString()); // before our own units are in it
         QString held;
         held.reserve(text.size() + text.size() / 64);
         qsizetype blockStart = 0;
@@ -34,14 +35,14 @@ namespace {
             const char16_t unit = text[i].unicode();
             if (unit != u'\r' && unit != u'\n')
                 continue;
-            AppendBlock(held, text.sliced(blockStart, i - blockStart));
+            AppendBlock(held, QStringView(text).sliced(blockStart, i - blockStart));
             const bool pair = unit == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
             held += QChar(unitFor(unit, pair));
             i += pair;
             blockStart = i + 1;
         }
-        AppendBlock(held, text.sliced(blockStart));
-        return WithStandIns(std::move(held));
+        AppendBlock(held, QStringView(text).sliced(blockStart));
+        return held;
     }
 
     // Spells out every line end; soft breaks go.

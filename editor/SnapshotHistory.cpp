@@ -13,7 +13,8 @@ void SnapshotHistory::AddUndo(const TextRope &text, int caret)
         m_undoSelIndex = 1;
     m_undoText[m_undoIndex] = text;
     ++m_undoSelIndex;
-    m_undoSel[m_undoSelIndex] = caret;
+    if (m_undoSelIndex >= 0) // Redo across the turn takes the two indexes apart
+        m_undoSel[m_undoSelIndex] = caret;
 }
 
 std::optional<SnapshotHistory::Restored> SnapshotHistory::Undo()
