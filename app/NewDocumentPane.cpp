@@ -56,6 +56,7 @@ QListWidget *NewDocumentPane::AddList(const QString &name, const QString &captio
     auto *label = new QLabel(caption, this);
     auto *list = new QListWidget(this);
     list->setObjectName(name);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setAccessibleName(QString(caption).remove(u'&'));
     label->setBuddy(list);
     auto *box = static_cast<QVBoxLayout *>(layout());

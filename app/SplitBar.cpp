@@ -12,15 +12,24 @@ SplitBar::SplitBar(Qt::Orientation orientation, QWidget *parent)
     setCursor(orientation == Qt::Horizontal ? Qt::SplitVCursor : Qt::SplitHCursor);
 }
 
+void SplitBar::mousePressEvent(QMouseEvent *event)
+{
+    m_grabbedAt
+        = int(m_orientation == Qt::Horizontal ? event->position().y() : event->position().x());
+    m_moved = false;
+}
+
 void SplitBar::mouseMoveEvent(QMouseEvent *event)
 {
-    if (event->buttons().testFlag(Qt::LeftButton) && Dragged)
-        Dragged(PositionOf(*event), false);
+    if (!event->buttons().testFlag(Qt::LeftButton) || !Dragged)
+        return;
+    m_moved = true;
+    Dragged(PositionOf(*event), false);
 }
 
 void SplitBar::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton && Dragged)
+    if (event->button() == Qt::LeftButton && m_moved && Dragged)
         Dragged(PositionOf(*event), true);
 }
 
@@ -41,7 +50,7 @@ void SplitBar::paintEvent(QPaintEvent *)
 int SplitBar::PositionOf(const QMouseEvent &event) const
 {
     const QPointF place = mapToParent(event.position());
-    return int(m_orientation == Qt::Horizontal ? place.y() : place.x());
+    return int(m_orientation == Qt::Horizontal ? place.y() : place.x()) - m_grabbedAt;
 }
 
 } // namespace brenix

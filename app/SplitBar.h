@@ -19,6 +19,7 @@ public:
     std::function<void(int position, bool finished)> Dragged;
 
 protected:
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -27,6 +28,8 @@ private:
     int PositionOf(const QMouseEvent &event) const;
 
     Qt::Orientation m_orientation;
+    int m_grabbedAt = 0; // within the bar
+    bool m_moved = false;
 };
 
 } // namespace brenix

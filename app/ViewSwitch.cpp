@@ -48,7 +48,8 @@ void RunViewSwitch(DocumentModel &document, MainWindowBars &bars)
     if (status == u"Preview") {
         if (BrowserView *browser = document.WebBrowser1())
             browser->SetOffline(false);
-        bars.SetAddress(ServerAddress(document.Caption()));
+        document.lblAddress = ServerAddress(document.Caption());
+        bars.SetAddress(document.lblAddress());
     }
     if (document.Load() == u"1") {
         document.Load = u"0"_s;

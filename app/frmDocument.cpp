@@ -40,6 +40,22 @@ namespace {
         return setting >= 1 && setting <= 4 ? Languages[setting - 1] : -1;
     }
 
+    bool WrapsWords()
+    {
+        return GetNumberSetting(u"Editor", u"WordWrap", 0).value_or(0) != 0;
+    }
+
+    bool SavesByItself()
+    {
+        return GetNumberSetting(u"Auto", u"Save", 0).value_or(0) != 0;
+    }
+
+    // Only these two are stored; anything else was written by hand.
+    QString FirstView()
+    {
+        return GetSetting(u"Settings", u"Mode", u"Split"_s) == u"HTML" ? u"HTML"_s : u"Split"_s;
+    }
+
 } // namespace
 
 frmDocument::frmDocument(MainWindowBars &bars, const QString &caption, QWidget *parent)
@@ -65,7 +81,7 @@ frmDocument::frmDocument(MainWindowBars &bars, const QString &caption, QWidget *
     ConnectFields();
     ConfigureSource();
     Caption = caption;
-    Status = GetSetting(u"Settings", u"Mode", u"Split"_s);
+    Status = FirstView();
 }
 
 frmDocument::~frmDocument()
@@ -90,12 +106,22 @@ void frmDocument::ConnectFields()
     connect(&m_refresher, &QTimer::timeout, this, &frmDocument::OnRefresher);
     connect(&m_copyWriter, &QTimer::timeout, this, &frmDocument::WritePreview);
     connect(&m_previewStart, &QTimer::timeout, this, &frmDocument::CreatePreview);
-    connect(&m_autoSave, &QTimer::timeout, this, [this] {
-        if (!IsSettingOn(u"Auto", u"Save", false))
-            m_autoSave.stop();
-        else if (!IsUntitled(Caption()) && Modyfied() == u"1")
-            m_source->SaveFile(Caption());
-    });
+    connect(&m_autoSave, &QTimer::timeout, this, &frmDocument::SaveByItself);
+}
+
+// A failure is told once, not every minute; a page that its encoding cannot hold waits for the
+// author's own save.
+void frmDocument::SaveByItself()
+{
+    if (!SavesByItself()) {
+        m_autoSave.stop();
+        return;
+    }
+    if (IsUntitled(Caption()) || Unread || Modyfied() != u"1" || m_source->NeedsOtherEncoding())
+        return;
+    if (std::exchange(m_autoSaveFailed, true))
+        return;
+    m_autoSaveFailed = !m_source->SaveFile(Caption());
 }
 
 void frmDocument::ConfigureSource()
@@ -113,7 +139,7 @@ void frmDocument::ConfigureSource()
     m_source->SetFont(GetSetting(u"Editor", u"FontName", u"Courier New"_s),
                       GetNumberSetting(u"Editor", u"Fontsize", 10).value_or(10));
     m_source->CharCode(GetSetting(u"Editor", u"Encoding", u"windows-1250"_s));
-    m_source->SetMargin(GetNumberSetting(u"Editor", u"WordWrap", 0) == 0 ? 250000 : 0);
+    m_source->SetMargin(WrapsWords() ? 0 : 250000);
     if (language >= 0)
         m_source->SetLanguage(language);
 }
@@ -136,6 +162,7 @@ bool frmDocument::LoadText(const QString &path)
     m_loading = true;
     const bool loaded = m_source->LoadFile(path);
     m_loading = false;
+    Unread = !loaded;
     if (!loaded && !path.isEmpty())
         MsgBox(u"Can't open '"_s + path + u"'\n\n"_s + m_source->LoadError(),
                Buttons::Ok,
@@ -153,9 +180,10 @@ void frmDocument::StartWith(const QString &text, int caret)
     RefreshPreview(0);
 }
 
+// A file that could not be read is not written over by what the window shows in its place.
 bool frmDocument::Save()
 {
-    if (IsUntitled(Caption()))
+    if (IsUntitled(Caption()) || (Unread && QFile::exists(Caption())))
         return SaveAs(u"Save"_s);
     if (!m_source->SaveFile(Caption()))
         return false;
@@ -172,6 +200,7 @@ bool frmDocument::SaveAs(const QString &title)
                                        .defaultSuffix = u"html"_s});
     if (path.isEmpty() || !m_source->SaveFile(path))
         return false;
+    Unread = false;
     Caption = path;
     Modyfied = u"0"_s;
     Form_Activate();
@@ -185,20 +214,28 @@ void frmDocument::Form_Activate()
     RemoveLists();
     m_bars.SetAddress(lblAddress());
     m_source->CharCode(GetSetting(u"Editor", u"Encoding", u"windows-1250"_s));
-    m_source->SetMargin(GetNumberSetting(u"Editor", u"WordWrap", 0) == 0 ? 250000 : 0);
+    m_source->SetMargin(WrapsWords() ? 0 : 250000);
+    m_autoSaveFailed = false;
     m_bars.ShowBarsFor(Status());
-    if (IsSettingOn(u"Auto", u"Save", false))
-        m_autoSave.start(AutoSaveInterval);
-    else
+    // The minute goes on when the author changes windows.
+    if (!SavesByItself())
         m_autoSave.stop();
+    else if (!m_autoSave.isActive())
+        m_autoSave.start(AutoSaveInterval);
     emit Activated();
 }
 
 void frmDocument::FollowCaption()
 {
-    setWindowTitle(Caption() + u"[*]"_s);
+    ShowTitle();
     m_copyStale = true;
     RefreshPreview(0);
+}
+
+void frmDocument::ShowTitle()
+{
+    setWindowTitle({});
+    setWindowTitle(QString(Caption()).replace(u"[*]"_s, u"[*][*]"_s) + u"[*]"_s);
 }
 
 // The preview copy and, in Split view, the preview follow the source.
@@ -233,8 +270,8 @@ void frmDocument::WritePreview()
         DropPreviewCopy(Banen());
     Banen = path;
     // A copy that cannot be written leaves the preview with the one before.
-    if (std::exchange(m_copyStale, false) || !QFile::exists(path))
-        WritePreviewCopy(path, m_source->FileBytes());
+    if (m_copyStale || !QFile::exists(path))
+        m_copyStale = !WritePreviewCopy(path, m_source->FileBytes());
 }
 
 void frmDocument::RefreshPreview(int milliseconds)
@@ -261,14 +298,23 @@ void frmDocument::OnRefresher()
     emit FilesChanged();
 }
 
+bool frmDocument::AgreeToClose()
+{
+    // The question goes by the status bar, which shows the active document.
+    Form_Activate();
+    m_mayClose = MayClose(*this, m_bars, Caption());
+    return m_mayClose;
+}
+
 void frmDocument::closeEvent(QCloseEvent *event)
 {
-    // The prompt goes by the status bar, which shows the active document.
-    Form_Activate();
-    if (!CloseDocument(*this, m_bars, Caption())) {
+    if (!m_mayClose && !AgreeToClose()) {
         event->ignore();
         return;
     }
+    for (QTimer *timer : {&m_refresher, &m_copyWriter, &m_autoSave, &m_previewStart})
+        timer->stop();
+    DropPreviewCopy(Banen());
     event->accept();
 }
 

@@ -46,6 +46,12 @@ public:
     /// What the main window must know again when this window becomes active or gets another name.
     void Form_Activate();
     int ViewBarHeight() const;
+    /// Asks what closing must ask, and saves where the author wants it. False when the page is to
+    /// stay; after true, closing asks nothing, until `StayOpen`.
+    bool AgreeToClose();
+    void StayOpen() { m_mayClose = false; }
+    /// Hands the title on to the main window, which takes none while it is hidden.
+    void ShowTitle();
     /// Sets font, colours, language and wrapping from the settings.
     void ConfigureSource();
 
@@ -76,6 +82,7 @@ private:
     void OnSourceChange();
     void OnRefresher();
     void FollowCaption();
+    void SaveByItself();
     void NeedPreview();
     void CreatePreview();
     QRect ViewArea() const;
@@ -94,6 +101,8 @@ private:
     double m_splitShare = 0.5; // of the window, for the part before the bar
     bool m_loading = false;
     bool m_copyStale = false;
+    bool m_mayClose = false; // the author has been asked
+    bool m_autoSaveFailed = false; // and was told
 };
 
 } // namespace brenix

@@ -128,7 +128,7 @@ int frmDocument::SplitPosition() const
 {
     const QRect area = ViewArea();
     const int whole = SplitHV() == u"1" ? area.width() : area.height();
-    return std::max(0, int(whole * m_splitShare) - SplitBar::Thickness / 2);
+    return std::max(0, qRound(whole * m_splitShare) - SplitBar::Thickness / 2);
 }
 
 void frmDocument::DragSplit(int position, bool finished)

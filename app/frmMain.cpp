@@ -84,15 +84,9 @@ void frmMain::BuildCentre()
     strip->setContentsMargins(0, 0, 0, 0);
     strip->addWidget(m_tabStrip);
     strip->addStretch();
-    // Pages of the same name share a caption: the first of them is found.
-    connect(m_tabStrip, &QTabBar::tabBarClicked, this, [this](int clicked) {
-        for (frmDocument *document : Documents()) {
-            if (clicked >= 0 && FileNameOf(document->Caption()) == m_tabStrip->tabText(clicked)) {
-                m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(document->parentWidget()));
-                return;
-            }
-        }
-    });
+    m_tabStrip->setFocusPolicy(Qt::NoFocus);
+    // Queued: the strip selects the clicked tab after it has told of the click.
+    connect(m_tabStrip, &QTabBar::tabBarClicked, this, &frmMain::ActivateTab, Qt::QueuedConnection);
     m_tabStrip->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_tabStrip, &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
         m_menu->MenuOf(u"mnuFile"_s)->popup(m_tabStrip->mapToGlobal(place));
@@ -207,6 +201,7 @@ void frmMain::BuildToolbars()
     m_designBar = new DesignBar(this);
     addToolBar(m_designBar);
     m_designBar->hide();
+    EnableDocumentCommands(ActiveForm() != nullptr);
 }
 
 void frmMain::BuildStatusBars()

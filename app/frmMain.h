@@ -62,6 +62,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -106,6 +107,7 @@ private:
     void OnDocumentActivated();
     void EnableDocumentCommands(bool enabled);
     void RebuildTabs();
+    void ActivateTab(int tab);
     void RebuildWindowMenu();
     void TickViewMenu();
     void ShowCaret();
@@ -138,6 +140,8 @@ private:
     std::unique_ptr<MainMenu> m_menu;
     QList<QAction *> m_windowItems;
     int m_documentCounter = 0;
+    bool m_openWhenShown = false;
+    bool m_tipWhenShown = false;
 };
 
 } // namespace brenix

@@ -55,7 +55,11 @@ frmDocument *frmMain::LoadNewDoc()
     auto *document = new frmDocument(*this, UntitledCaption(m_documentCounter));
     connect(document, &frmDocument::Activated, this, &frmMain::OnDocumentActivated);
     connect(document, &frmDocument::CaptionChanged, this, &frmMain::OnDocumentActivated);
-    connect(document, &frmDocument::PreviewPainted, this, &frmMain::PreviewPainted);
+    connect(document, &frmDocument::PreviewPainted, this, [this, document] {
+        if (document == ActiveForm())
+            SetAddress(document->lblAddress());
+        emit PreviewPainted();
+    });
     connect(document, &frmDocument::PreviewStatus, m_previewText, &QLabel::setText);
     connect(document, &frmDocument::ContextMenu, this, [this](const QPoint &place) {
         m_menu->MenuOf(u"mnuEdit"_s)->popup(place);
@@ -230,10 +234,26 @@ void frmMain::RebuildTabs()
     while (m_tabStrip->count() < documents.size())
         m_tabStrip->addTab({});
     for (int i = 0; i < documents.size(); ++i) {
-        m_tabStrip->setTabText(i, FileNameOf(documents[i]->Caption()));
+        m_tabStrip->setTabText(i, FileNameOf(documents[i]->Caption()).replace(u"&"_s, u"&&"_s));
         m_tabStrip->setTabToolTip(i, documents[i]->Caption());
     }
     m_tabStrip->setCurrentIndex(int(documents.indexOf(ActiveForm())));
+}
+
+// Pages of the same name share a caption: the first of them is found.
+void frmMain::ActivateTab(int tab)
+{
+    const QList<frmDocument *> documents = Documents();
+    if (tab < 0 || tab >= documents.size())
+        return;
+    const QString name = FileNameOf(documents[tab]->Caption());
+    for (frmDocument *document : documents) {
+        if (FileNameOf(document->Caption()) == name) {
+            m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(document->parentWidget()));
+            break;
+        }
+    }
+    RebuildTabs();
 }
 
 void frmMain::RebuildWindowMenu()

@@ -160,8 +160,10 @@ void frmMain::RestoreWindow()
     // A window that lies off every screen, or is larger than its screen, is brought back onto one.
     const QScreen *screen = QGuiApplication::screenAt(place.center());
     const QRect whole = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    place.setSize(
-        place.size().expandedTo({SmallestWindow, SmallestWindow}).boundedTo(whole.size()));
+    place.setSize(place.size()
+                      .expandedTo({SmallestWindow, SmallestWindow})
+                      .expandedTo(minimumSizeHint())
+                      .boundedTo(whole.size()));
     place.moveLeft(std::clamp(place.left(), whole.left(), whole.right() + 1 - place.width()));
     place.moveTop(std::clamp(place.top(), whole.top(), whole.bottom() + 1 - place.height()));
     setGeometry(place);
@@ -183,8 +185,7 @@ void frmMain::OpenAtStart(frmSplash &splash, const CommandLine &commandLine)
     splash.Say(u"Loading startup files..."_s);
     switch (GetNumberSetting(u"Settings", u"Startup", 3).value_or(0)) {
     case 1:
-        // The chooser needs a window to stand over.
-        QTimer::singleShot(0, this, &frmMain::OpenDoc);
+        m_openWhenShown = true;
         break;
     case 2:
         OpenLastEdited();
@@ -215,21 +216,37 @@ void frmMain::OpenLastEdited()
     document->Modyfied = u"0"_s;
 }
 
+// The tip and the Open dialog stand over the main window, so they wait until it does.
 void frmMain::ShowTips()
 {
-    if (frmTip::IsWanted())
-        QTimer::singleShot(0, this, [this] { frmTip(this).exec(); });
+    m_tipWhenShown = frmTip::IsWanted();
 }
 
+void frmMain::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    ForActive([](frmDocument &document) { document.ShowTitle(); });
+    QTimer::singleShot(0, this, [this] {
+        if (std::exchange(m_openWhenShown, false))
+            OpenDoc();
+        if (std::exchange(m_tipWhenShown, false))
+            frmTip(this).exec();
+    });
+}
+
+// Every page is asked for before the first one goes: Cancel keeps them all.
 void frmMain::closeEvent(QCloseEvent *event)
 {
-    for (QMdiSubWindow *window : m_area->subWindowList()) {
-        m_area->setActiveSubWindow(window);
-        if (!window->close()) {
+    for (frmDocument *document : Documents()) {
+        m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(document->parentWidget()));
+        if (!document->AgreeToClose()) {
+            for (frmDocument *open : Documents())
+                open->StayOpen();
             event->ignore();
             return;
         }
     }
+    m_area->closeAllSubWindows();
     StoreWindow();
     event->accept();
     emit Closed();

@@ -7,6 +7,8 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 
@@ -16,7 +18,10 @@ namespace brenix {
 
 namespace {
     constexpr QStringView ShowKey = u"Show Tips at Startup";
-}
+    constexpr int PictureSize = 64;
+    constexpr int CharactersWide = 52;
+    constexpr int LinesHigh = 5;
+} // namespace
 
 frmTip::frmTip(QWidget *parent)
     : QDialog(parent)
@@ -26,22 +31,20 @@ frmTip::frmTip(QWidget *parent)
     setObjectName(u"frmTip"_s);
     setWindowTitle(u"Tip of the Day"_s);
     const QString text = QString::fromUtf8(ReadAuthorFile(AppPath(u"TIPS.TXT")).bytes);
-    for (const QString &line : text.split(u'\n', Qt::SkipEmptyParts))
+    for (const QString &line : text.split(u'\n'))
         m_tips.append(line.trimmed());
+    m_tips.removeAll(QString());
 
-    m_tip->setObjectName(u"Label1"_s);
-    m_tip->setWordWrap(true);
-    m_tip->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    m_tip->setMinimumSize(380, 110);
-    m_tip->setMargin(10);
-    m_tip->setFrameShape(QFrame::StyledPanel);
     m_atStartup->setObjectName(u"Check1"_s);
     m_atStartup->setChecked(IsWanted());
     connect(m_atStartup, &QCheckBox::toggled, this, [](bool on) {
         SaveSetting(u"Options", ShowKey, on ? u"1"_s : u"0"_s);
     });
 
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    auto *buttons = new QDialogButtonBox(this);
+    QPushButton *ok = buttons->addButton(QDialogButtonBox::Ok);
+    ok->setText(u"&OK"_s);
+    ok->setObjectName(u"Command1"_s);
     QPushButton *next = buttons->addButton(u"&Next Tip"_s, QDialogButtonBox::ActionRole);
     next->setObjectName(u"Command2"_s);
     next->setEnabled(m_tips.size() > 1);
@@ -49,11 +52,48 @@ frmTip::frmTip(QWidget *parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(u"<b>Did you know...</b>"_s, this));
-    layout->addWidget(m_tip, 1);
+    layout->addWidget(Page(), 1);
     layout->addWidget(m_atStartup);
     layout->addWidget(buttons);
+    // Enter and the space bar close it; neither switches the tips off by accident.
+    ok->setDefault(true);
+    ok->setFocus();
     ShowNextTip();
+}
+
+QWidget *frmTip::Page()
+{
+    auto *page = new QFrame(this);
+    page->setFrameShape(QFrame::StyledPanel);
+    page->setBackgroundRole(QPalette::Base);
+    page->setAutoFillBackground(true);
+    auto *picture = new QLabel(page);
+    picture->setPixmap(
+        QIcon(AppPath(u"tip.png")).pixmap(QSize(PictureSize, PictureSize), devicePixelRatioF()));
+    auto *title = new QLabel(u"Did you know..."_s, page);
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    large.setBold(true);
+    title->setFont(large);
+    m_tip->setObjectName(u"Label1"_s);
+    // Tips name tags and entities.
+    m_tip->setTextFormat(Qt::PlainText);
+    m_tip->setWordWrap(true);
+    m_tip->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    const QFontMetrics metrics = fontMetrics();
+    m_tip->setMinimumSize(metrics.averageCharWidth() * CharactersWide,
+                          metrics.lineSpacing() * LinesHigh);
+
+    auto *layout = new QGridLayout(page);
+    const int margin = metrics.lineSpacing();
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setHorizontalSpacing(margin);
+    layout->addWidget(picture, 0, 0, 2, 1, Qt::AlignTop);
+    layout->addWidget(title, 0, 1);
+    layout->addWidget(m_tip, 1, 1);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(1, 1);
+    return page;
 }
 
 bool frmTip::IsWanted()

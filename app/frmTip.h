@@ -17,6 +17,7 @@ public:
     static bool IsWanted();
 
 private:
+    QWidget *Page();
     void ShowNextTip();
 
     QStringList m_tips;

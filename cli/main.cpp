@@ -94,9 +94,10 @@ std::optional<QString> ReadInput(const QCommandLineParser &parser)
     FileContent file;
     if (name == u"-") {
         QFile input;
-        if (!input.open(stdin, QIODevice::ReadOnly))
-            file.error = input.errorString();
+        input.open(stdin, QIODevice::ReadOnly);
         file.bytes = input.readAll();
+        if (input.error() != QFileDevice::NoError)
+            file.error = input.errorString();
     } else {
         file = ReadAuthorFile(name);
     }
@@ -113,7 +114,7 @@ bool WriteOutput(const QString &text)
     QFile output;
     const QByteArray bytes = text.toUtf8();
     const bool written = output.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered)
-        && output.write(bytes) == bytes.size();
+        && output.write(bytes) == bytes.size() && output.flush();
     if (!written)
         Complain(u"standard output: "_s + output.errorString());
     return written;

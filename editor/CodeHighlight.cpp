@@ -4,6 +4,7 @@
 #include "editor/LargeFile.h"
 #include "editor/LineEnds.h"
 #include "editor/PageText.h"
+#include "editor/SourceLayout.h"
 #include "support/AuthorFile.h"
 #include "support/MessageBoxes.h"
 #include "support/SettingsStore.h"
@@ -33,11 +34,19 @@ namespace {
         return QColor(rgb & 0xFF, rgb >> 8 & 0xFF, rgb >> 16 & 0xFF);
     }
 
+    QTextDocument *NewPage(QPlainTextEdit &view)
+    {
+        auto *page = new QTextDocument(&view);
+        page->setDocumentLayout(new SourceLayout(page));
+        view.setDocument(page);
+        return page;
+    }
+
 } // namespace
 
 CodeHighlight::CodeHighlight(QWidget *parent)
     : QPlainTextEdit(parent)
-    , m_mirror(new PageMirror(document()))
+    , m_mirror(new PageMirror(NewPage(*this)))
     , m_colours(document(), *m_mirror, m_tables)
     , m_gutter(new Gutter(*this))
 {
@@ -57,7 +66,7 @@ CodeHighlight::CodeHighlight(QWidget *parent)
             this,
             [this](int from, int removed, int added, bool lines) {
                 m_colours.OnEdit(from, removed, added, lines);
-                m_lineEdited = true;
+                m_editedLine = m_mirror->Rope().LineOf(from + added);
                 m_textChanged = true;
             });
     // The document reports repainting as a change as well.
@@ -69,7 +78,13 @@ CodeHighlight::CodeHighlight(QWidget *parent)
     connect(this, &QPlainTextEdit::selectionChanged, this, &CodeHighlight::OnSelChange);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &CodeHighlight::OnScroll);
     connect(this, &QPlainTextEdit::blockCountChanged, this, &CodeHighlight::PlaceGutter);
-    connect(this, &QPlainTextEdit::updateRequest, m_gutter, qOverload<>(&QWidget::update));
+    connect(
+        this, &QPlainTextEdit::updateRequest, m_gutter, [this](const QRect &changed, int scrolled) {
+            if (scrolled != 0)
+                m_gutter->update();
+            else
+                m_gutter->update(0, changed.y(), m_gutter->width(), changed.height());
+        });
     PlaceGutter();
 }
 
@@ -82,6 +97,8 @@ QString CodeHighlight::Text() const
 // their file.
 void CodeHighlight::SetText(const QString &text)
 {
+    if (IsReadOnlyPage())
+        return;
     const QString before = Text();
     const QString after = WithCrLf(text);
     const auto length = std::min(before.size(), after.size());
@@ -98,11 +115,17 @@ void CodeHighlight::SetText(const QString &text)
     const int upTo = m_mirror->Rope().FromTextPosition(int(before.size() - tail));
     const QString held = HeldText(QStringView(after).sliced(head, after.size() - head - tail),
                                   m_mirror->UsualEnd());
-    m_textChanged = true;
+    const int caret = Caret();
+    const bool changed = upTo > from || !held.isEmpty();
+    m_textChanged = changed;
     m_repaintEnabled = false;
-    m_mirror->Replace(from, upTo - from, held);
-    m_mirror->BreakLongBlocks(from, int(held.size()));
-    TellLimitOnce();
+    if (changed) {
+        m_mirror->Replace(from, upTo - from, held);
+        m_mirror->BreakLongBlocks(from, int(held.size()));
+        if (caret >= from && caret <= upTo)
+            Select(from, from);
+    }
+    TellLimitOnce(TextLength());
     m_colours.ColourAll(LargeFile());
     m_repaintEnabled = true;
     viewport()->update();
@@ -149,11 +172,12 @@ QString CodeHighlight::SelText() const
 
 void CodeHighlight::SetSelText(const QString &text)
 {
+    if (IsReadOnlyPage())
+        return;
     const QTextCursor cursor = textCursor();
     const int start = cursor.selectionStart();
     const QString held = HeldText(text, m_mirror->UsualEnd());
-    if (text.size() > LargeFile())
-        TellLimitOnce();
+    TellLimitOnce(text.size());
     ReplaceHeld(start, cursor.selectionEnd() - start, held);
 }
 
@@ -217,7 +241,7 @@ void CodeHighlight::SetLanguage(int language)
 {
     if (!m_tables.SetLanguage(language))
         return;
-    TellLimitOnce();
+    TellLimitOnce(TextLength());
     m_colours.ColourAll(LargeFile());
     viewport()->update();
 }
@@ -234,17 +258,15 @@ void CodeHighlight::AddCommentTag(const QString &start, const QString &end)
 
 QString CodeHighlight::HighlightBlock(const QString &text)
 {
-    if (text.size() <= LargeFile())
-        return brenix::HighlightBlock(text, m_tables, m_syntaxColours);
-    TellLimitOnce();
-    return text;
+    TellLimitOnce(text.size());
+    return text.size() <= LargeFile() ? brenix::HighlightBlock(text, m_tables, m_syntaxColours)
+                                      : text;
 }
 
 // Shown when a page is too long to be coloured, the first time that this happens to the user.
-void CodeHighlight::TellLimitOnce()
+void CodeHighlight::TellLimitOnce(qsizetype length)
 {
-    const bool tooLong = TextLength() > LargeFile();
-    if (!tooLong || Language() == SyntaxTables::None
+    if (length <= LargeFile() || Language() == SyntaxTables::None
         || GetSetting(u"Settings", u"Bigfile", u"True"_s) != u"True")
         return;
     SaveSetting(u"Settings", u"Bigfile", u"False"_s);
@@ -354,18 +376,21 @@ void CodeHighlight::ReplaceHeld(int from, int length, const QString &held)
 {
     const bool repaintEnabled = std::exchange(m_repaintEnabled, false);
     m_textChanged = true;
-    m_lineEdited = true;
+    m_selChangeDue = true;
     m_colours.Replace(from, length, held, LargeFile());
     Select(from + int(held.size()), from + int(held.size()));
+    m_editedLine = LineIndex();
     AfterEdit(from, int(held.size()));
     m_repaintEnabled = repaintEnabled;
 }
 
 void CodeHighlight::AfterEdit(int from, int length)
 {
-    if (m_mirror->BreakLongBlocks(from, length))
-        m_colours.ColourInContext(
-            document()->findBlock(from), document()->findBlock(from + length), LargeFile());
+    const PageMirror::Stretch broken = m_mirror->BreakLongBlocks(from, length);
+    if (broken.length > 0)
+        m_colours.ColourInContext(document()->findBlock(broken.from),
+                                  document()->findBlock(broken.from + broken.length),
+                                  LargeFile());
 }
 
 // A caret or line number left over from before an edit must not stop the repaint of a shorter page.
@@ -376,14 +401,16 @@ void CodeHighlight::RepaintLine(int line)
     if (start < 0)
         return;
     NormaliseLine(line);
-    m_colours.ColourLineAlone(
-        document()->findBlock(start), document()->findBlock(rope.LineFinish(line)), LargeFile());
-    viewport()->update();
+    TellLimitOnce(rope.LineFinish(line) - start);
+    if (m_colours.ColourLineAlone(document()->findBlock(start),
+                                  document()->findBlock(rope.LineFinish(line)),
+                                  LargeFile()))
+        viewport()->update();
 }
 
 void CodeHighlight::NormaliseLine(int line)
 {
-    if (!m_giveCorrectCase || !m_lineEdited || !m_tables.NormalisesCase())
+    if (!m_giveCorrectCase || line != m_editedLine || !m_tables.NormalisesCase())
         return;
     const TextRope rope = m_mirror->Rope();
     const int start = rope.LineStart(line);
@@ -406,10 +433,10 @@ void CodeHighlight::NormaliseLine(int line)
 void CodeHighlight::OnSelChange()
 {
     const QTextCursor cursor = textCursor();
-    if (cursor.position() == m_caretBefore && cursor.anchor() == m_anchorBefore)
+    const bool moved = cursor.position() != m_caretBefore || cursor.anchor() != m_anchorBefore;
+    if (!m_repaintEnabled || !(moved || m_selChangeDue))
         return;
-    if (!m_repaintEnabled)
-        return;
+    m_selChangeDue = false;
     MoveOffSoftBreak();
     m_caretBefore = Caret();
     m_anchorBefore = textCursor().anchor();
@@ -418,7 +445,8 @@ void CodeHighlight::OnSelChange()
         const int line = LineIndex();
         if (line != m_lastLine) {
             RepaintLine(m_lastLine);
-            m_lineEdited = false;
+            if (m_editedLine == m_lastLine)
+                m_editedLine = -1;
         }
         m_lastLine = line;
         m_repaintEnabled = true;
@@ -430,11 +458,12 @@ void CodeHighlight::OnSelChange()
 void CodeHighlight::MoveOffSoftBreak()
 {
     QTextCursor cursor = textCursor();
-    if (cursor.hasSelection() || !cursor.atBlockEnd() || !m_mirror->EndsInSoftBreak(cursor.block()))
+    if (!cursor.atBlockEnd() || !m_mirror->EndsInSoftBreak(cursor.block()))
         return;
     const bool cameFromBehind = m_caretBefore == cursor.position() + 1;
     cursor.movePosition(cameFromBehind ? QTextCursor::PreviousCharacter
-                                       : QTextCursor::NextCharacter);
+                                       : QTextCursor::NextCharacter,
+                        cursor.hasSelection() ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
     const bool repaintEnabled = std::exchange(m_repaintEnabled, false);
     setTextCursor(cursor);
     m_repaintEnabled = repaintEnabled;

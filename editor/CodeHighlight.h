@@ -46,6 +46,8 @@ public:
 
     /// Why the last LoadFile failed, in the system's words; empty when it did not.
     QString LoadError() const { return m_loadError; }
+    /// Whether the page holds a character that its encoding lacks, so that saving would ask.
+    bool NeedsOtherEncoding() const;
     /// The page as SaveFile would write it, for copies that are not the author's: what the encoding
     /// lacks becomes a character reference. Nobody is asked.
     QByteArray FileBytes() const;
@@ -146,6 +148,7 @@ private:
     void LayVisibleLines();
 
     bool IndentSelection();
+    bool MoveToLineEdge(const QKeyEvent &event, int keyCode);
     bool HandleDeletion(QKeyEvent *event, int keyCode);
     bool EnterCharacter(QKeyEvent *event, int keyCode, int keyAscii, bool changedByHost);
     void MoveOffSoftBreak();
@@ -154,10 +157,12 @@ private:
     void OnSelChange();
     void OnScroll();
     void PlaceGutter();
-    void TellLimitOnce();
+    void TellLimitOnce(qsizetype length);
     bool IsDelimiterKey(int keyAscii) const;
-    QByteArray EncodedFile(Unencodable unencodable, qsizetype *firstUnencodable) const;
-    bool AskAboutEncoding(qsizetype firstUnencodable, QByteArray &bytes);
+    QByteArray EncodedFile(const PageEncoding &encoding,
+                           Unencodable unencodable,
+                           qsizetype *firstUnencodable) const;
+    bool AskAboutEncoding(qsizetype firstUnencodable, PageEncoding &encoding) const;
 
     SyntaxTables m_tables;
     SyntaxColours m_syntaxColours{0xFF0000, 0xFFFF, 0xFF00FF, 0xFFFF00};
@@ -175,6 +180,7 @@ private:
     double m_margin = 250000;
     int m_highlightCode = 1;
     int m_lastLine = 0;
+    int m_editedLine = -1;
     int m_topLineAtMouseDown = 0;
     int m_gutterTopLine = -4;
     int m_caretBefore = 0;
@@ -183,7 +189,7 @@ private:
     bool m_repaintEnabled = true;
     bool m_undoBusy = false;
     bool m_textChanged = false;
-    bool m_lineEdited = false;
+    bool m_selChangeDue = false; // an edit moved the caret, and nobody was told
 };
 
 } // namespace brenix

@@ -17,6 +17,8 @@ bool CodeHighlight::LoadFile(const QString &path)
     m_encoding = page.encoding;
     m_readOnlyBytes = faithful ? QByteArray() : file.bytes;
     setReadOnly(!faithful);
+    if (!faithful)
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     SetHeld(HeldText(page.text));
     if (!faithful) {
         MsgBox(
@@ -35,26 +37,36 @@ void CodeHighlight::SetHeld(const QString &held)
     m_textChanged = true;
     m_mirror->SetUsualEnd(UsualLineEnd(held));
     m_mirror->Replace(0, m_mirror->Rope().Length(), held);
-    TellLimitOnce();
+    TellLimitOnce(TextLength());
     m_colours.ColourAll(LargeFile());
     Select(0, 0);
     m_lastLine = 0;
-    m_lineEdited = false;
+    m_editedLine = -1;
+    m_selChangeDue = true;
     setUpdatesEnabled(true);
     m_repaintEnabled = true;
     PlaceGutter();
 }
 
-QByteArray CodeHighlight::FileBytes() const
+bool CodeHighlight::NeedsOtherEncoding() const
 {
-    return EncodedFile(Unencodable::CharacterReference, nullptr);
+    qsizetype firstUnencodable = -1;
+    EncodedFile(m_encoding, Unencodable::Refuse, &firstUnencodable);
+    return firstUnencodable >= 0;
 }
 
-QByteArray CodeHighlight::EncodedFile(Unencodable unencodable, qsizetype *firstUnencodable) const
+QByteArray CodeHighlight::FileBytes() const
+{
+    return EncodedFile(m_encoding, Unencodable::CharacterReference, nullptr);
+}
+
+QByteArray CodeHighlight::EncodedFile(const PageEncoding &encoding,
+                                      Unencodable unencodable,
+                                      qsizetype *firstUnencodable) const
 {
     if (IsReadOnlyPage())
         return m_readOnlyBytes;
-    const EncodedPage encoded = EncodePage(FileTextOf(m_mirror->Rope()), m_encoding, unencodable);
+    const EncodedPage encoded = EncodePage(FileTextOf(m_mirror->Rope()), encoding, unencodable);
     if (firstUnencodable)
         *firstUnencodable = encoded.firstUnencodable;
     return encoded.bytes;
@@ -63,29 +75,34 @@ QByteArray CodeHighlight::EncodedFile(Unencodable unencodable, qsizetype *firstU
 bool CodeHighlight::SaveFile(const QString &path)
 {
     qsizetype firstUnencodable = -1;
-    QByteArray bytes = EncodedFile(Unencodable::Refuse, &firstUnencodable);
-    if (firstUnencodable >= 0 && !AskAboutEncoding(firstUnencodable, bytes))
-        return false;
+    PageEncoding encoding = m_encoding;
+    QByteArray bytes = EncodedFile(encoding, Unencodable::Refuse, &firstUnencodable);
+    if (firstUnencodable >= 0) {
+        if (!AskAboutEncoding(firstUnencodable, encoding))
+            return false;
+        bytes = EncodedFile(encoding, Unencodable::CharacterReference, nullptr);
+    }
     const QString error = WriteAuthorFile(path, bytes);
-    if (error.isEmpty())
+    if (error.isEmpty()) {
+        m_encoding = encoding;
         return true;
+    }
     MsgBox(u"Can't save '"_s + path + u"'\n\n"_s + error, Buttons::Ok, Icon::Critical);
     return false;
 }
 
-bool CodeHighlight::AskAboutEncoding(qsizetype firstUnencodable, QByteArray &bytes)
+// False when the user gives up; `encoding` becomes the one to write in.
+bool CodeHighlight::AskAboutEncoding(qsizetype firstUnencodable, PageEncoding &encoding) const
 {
     const QString text = FileTextOf(m_mirror->Rope());
     const char32_t character = QStringView(text).sliced(firstUnencodable).toUcs4().constFirst();
     const int answer = ChooseBox(
         u"The character '%1' does not exist in the encoding of this page (%2). How shall it be saved?"_s
-            .arg(QString::fromUcs4(&character, 1), QString::fromLatin1(m_encoding.codec)),
+            .arg(QString::fromUcs4(&character, 1), QString::fromLatin1(encoding.codec)),
         {u"Save as &UTF-8"_s, u"As &character reference"_s, u"Cancel"_s},
         Icon::Question);
     if (answer == 0)
-        m_encoding = PageEncoding();
-    if (answer == 0 || answer == 1)
-        bytes = EncodedFile(Unencodable::CharacterReference, nullptr);
+        encoding = PageEncoding();
     return answer == 0 || answer == 1;
 }
 

@@ -38,7 +38,8 @@ namespace {
         {Qt::Key_Delete, VirtualKey::Delete},
     };
 
-    // Letters, digits and the blank have their own character code.
+    // Letters, digits and the blank have their own character code; that of other signs means
+    // another key (46 is Delete, but also the full stop).
     int KeyCodeOf(const QKeyEvent &event)
     {
         const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
@@ -52,7 +53,8 @@ namespace {
         }
         if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F24)
             return VirtualKey::F1 + event.key() - Qt::Key_F1;
-        return event.key() < 0x80 ? int(event.key()) : 0;
+        const QChar sign(event.key() < 0x80 ? event.key() : 0);
+        return sign == u' ' || sign.isLetterOrNumber() ? int(event.key()) : 0;
     }
 
     int ShiftOf(Qt::KeyboardModifiers modifiers)
@@ -136,7 +138,7 @@ void CodeHighlight::keyPressEvent(QKeyEvent *event)
             return;
     }
 
-    if (!HandleDeletion(event, pressed)
+    if (!MoveToLineEdge(*event, pressed) && !HandleDeletion(event, pressed)
         && !EnterCharacter(event, pressed, keyAscii, keyAscii != entered))
         QPlainTextEdit::keyPressEvent(event);
     AfterEdit(Caret(), 0);
@@ -183,15 +185,35 @@ bool CodeHighlight::IsDelimiterKey(int keyAscii) const
 // Tab before each selected line; false when the selection lies within one line.
 bool CodeHighlight::IndentSelection()
 {
-    const QString selected = SelText();
-    if (!selected.contains(u"\r\n"_s))
+    const int start = textCursor().selectionStart();
+    const QString selected = m_mirror->Rope().Mid(start, textCursor().selectionEnd() - start);
+    QString indented = u"\t"_s;
+    for (const QChar unit : selected) {
+        indented += unit;
+        if (IsHardEnd(unit.unicode()))
+            indented += u'\t';
+    }
+    if (indented.size() == selected.size() + 1)
         return false;
-    const QStringList pieces = selected.split(u"\r\n"_s);
-    const QString indented = u"\t"_s + pieces.join(u"\r\n\t"_s);
-    const int start = SelStart();
-    SetSelText(indented);
-    SetSelStart(start);
-    SetSelLength(int(indented.size()));
+    ReplaceHeld(start, int(selected.size()), indented);
+    Select(start, start + int(indented.size()));
+    return true;
+}
+
+// The box would stop at the pieces that a long line is held in.
+bool CodeHighlight::MoveToLineEdge(const QKeyEvent &event, int keyCode)
+{
+    const QTextCursor cursor = textCursor();
+    const bool pieces = m_mirror->EndsInSoftBreak(cursor.block())
+        || (cursor.block().previous().isValid()
+            && m_mirror->EndsInSoftBreak(cursor.block().previous()));
+    if ((keyCode != VirtualKey::Home && keyCode != VirtualKey::End) || !pieces
+        || event.modifiers().testFlag(Qt::ControlModifier))
+        return false;
+    const TextRope &rope = m_mirror->Rope();
+    const int edge
+        = keyCode == VirtualKey::End ? rope.LineFinish(LineIndex()) : rope.LineStart(LineIndex());
+    Select(event.modifiers().testFlag(Qt::ShiftModifier) ? cursor.anchor() : edge, edge);
     return true;
 }
 

@@ -59,8 +59,7 @@ namespace {
         }
         void Delimiter(qsizetype start, int index)
         {
-            // The first three are blank, line end and tab: they show no colour.
-            if (index > 2)
+            if (SyntaxTables::ShowsColour(index))
                 Add(start, 1, {.colour = RunColour::Operator});
         }
         void Block(const ScannedBlock &block)

@@ -2,6 +2,7 @@
 
 #include "editor/CodeHighlight.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QTextBlock>
 
@@ -18,6 +19,7 @@ Gutter::Gutter(CodeHighlight &editor)
     , m_editor(editor)
 {
     setObjectName(QStringLiteral("Label1"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(QStringLiteral("Line numbers"));
 }
 
@@ -35,10 +37,10 @@ QString Gutter::Label() const
     return numbers;
 }
 
-void Gutter::paintEvent(QPaintEvent *)
+void Gutter::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().window());
+    painter.fillRect(event->rect(), palette().window());
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawLine(width() - Gap, 0, width() - Gap, height());
     QColor ink = palette().color(QPalette::WindowText);
@@ -53,11 +55,12 @@ void Gutter::paintEvent(QPaintEvent *)
     const int lineHeight = QFontMetrics(m_editor.font()).lineSpacing();
     const auto drawNumber = [&](int number, qreal y) {
         const QRectF place(0, y, width() - 2 * Gap, lineHeight);
-        painter.drawText(place, Qt::AlignRight | Qt::AlignTop, QString::number(number));
+        if (place.intersects(event->rect()))
+            painter.drawText(place, Qt::AlignRight | Qt::AlignTop, QString::number(number));
     };
     int number = m_editor.TopLineIndex() + 1;
     const int last = number + Numbers;
-    for (bool lineStart = true; number < last && top < height();) {
+    for (bool lineStart = true; number < last && top <= event->rect().bottom();) {
         if (lineStart)
             drawNumber(number++, top);
         lineStart = !block.isValid() || !m_editor.m_mirror->EndsInSoftBreak(block);

@@ -15,6 +15,8 @@ namespace {
     };
     // clang-format on
 
+    constexpr qsizetype ColourTableRoom = 200;
+
     struct Affix
     {
         QStringView prefix;
@@ -43,46 +45,53 @@ namespace {
         return {u"\\cf4", u"\\cf0 "};
     }
 
-    // Text that grows in few steps: a stream is two or three times as long as its page.
+    // Text that grows in few steps: a stream is two or three times as long as its page. Room is
+    // made once for each part of the text, so that its pieces are copied without a test.
     class StreamBuffer
     {
     public:
         explicit StreamBuffer(qsizetype expected)
             : m_text(expected, Qt::Uninitialized)
-            , m_data(m_text.data())
+            , m_end(m_text.data())
         {
+        }
+        void MakeRoomFor(qsizetype length)
+        {
+            const qsizetype used = m_end - m_text.constData();
+            if (used + length <= m_text.size())
+                return;
+            m_text.resize((used + length) * 3 / 2);
+            m_end = m_text.data() + used;
         }
         void Add(QStringView part)
         {
-            MakeRoomFor(part.size());
-            std::copy(part.begin(), part.end(), m_data + m_used);
-            m_used += part.size();
+            constexpr qsizetype Short = 16; // below, a loop beats the call
+            if (part.size() <= Short)
+                return AddShort(part);
+            std::memcpy(
+                static_cast<void *>(m_end), part.data(), std::size_t(part.size()) * sizeof(QChar));
+            m_end += part.size();
+        }
+        void AddShort(QStringView part)
+        {
+            for (const QChar unit : part)
+                *m_end++ = unit;
         }
         // Control words: their length is known, so that copying them is a few moves.
         template <std::size_t Size> void Add(const char16_t (&literal)[Size])
         {
-            MakeRoomFor(Size - 1);
-            std::memcpy(m_data + m_used, literal, (Size - 1) * sizeof(char16_t));
-            m_used += Size - 1;
+            std::memcpy(static_cast<void *>(m_end), literal, (Size - 1) * sizeof(char16_t));
+            m_end += Size - 1;
         }
         QString Take()
         {
-            m_text.truncate(m_used);
+            m_text.truncate(m_end - m_text.constData());
             return std::move(m_text);
         }
 
     private:
-        void MakeRoomFor(qsizetype length)
-        {
-            if (m_used + length > m_text.size()) {
-                m_text.resize((m_used + length) * 3 / 2);
-                m_data = m_text.data();
-            }
-        }
-
         QString m_text;
-        QChar *m_data; // the text's own, without the test for sharing
-        qsizetype m_used = 0;
+        QChar *m_end;
     };
 
     class StreamSink
@@ -100,6 +109,7 @@ namespace {
         void Word(qsizetype start, qsizetype length, int index)
         {
             QStringView word = m_text.sliced(start, length);
+            m_out.MakeRoomFor(length + LongestControls);
             if (index < 0) {
                 m_out.Add(u"\\cf0 ");
             } else {
@@ -118,9 +128,10 @@ namespace {
         void Delimiter(qsizetype, int index)
         {
             const QStringView delimiter = SyntaxTables::DelimiterAt(index);
+            m_out.MakeRoomFor(LongestControls);
             switch (delimiter.front().unicode()) {
             case u' ':
-                m_out.Add(delimiter);
+                m_out.AddShort(delimiter);
                 return;
             case u'\r':
                 m_out.Add(u"\\par \r\n");
@@ -136,7 +147,7 @@ namespace {
             default:
                 m_out.Add(u"\\cf2 ");
             }
-            m_out.Add(delimiter);
+            m_out.AddShort(delimiter);
             m_out.Add(u"\\cf0 ");
         }
 
@@ -144,16 +155,21 @@ namespace {
         {
             const Affix affix = AffixOf(block.paint);
             const QStringView end = block.EndText(m_tables);
-            m_out.Add(affix.prefix);
+            m_out.MakeRoomFor(block.length * LongestEscape + end.size() + LongestControls);
+            m_out.AddShort(affix.prefix);
             AddEscaped(m_text.sliced(block.start, block.length));
             if (end == u"\r\n")
                 m_out.Add(u"\\par\r\n");
             else
                 m_out.Add(end == u"\t" ? QStringView(u"\\tab ") : end);
-            m_out.Add(affix.suffix);
+            m_out.AddShort(affix.suffix);
         }
 
     private:
+        static constexpr qsizetype LongestControls = 32; // before and behind one part
+        static constexpr qsizetype LongestEscape
+            = 3; // units for one: a line end of two becomes five
+
         static bool NeedsEscape(char16_t unit)
         {
             return unit == u'\\' || unit == u'{' || unit == u'}' || unit == u'\r';
@@ -170,7 +186,7 @@ namespace {
                 if (lineEnd && (i + 1 == block.size() || block[i + 1] != u'\n'))
                     continue;
                 m_out.Add(block.sliced(plainFrom, i - plainFrom));
-                m_out.Add(lineEnd ? QStringView(u"\\par ") : QStringView(u"\\"));
+                m_out.AddShort(lineEnd ? QStringView(u"\\par ") : QStringView(u"\\"));
                 plainFrom = lineEnd ? i + 2 : i;
             }
             m_out.Add(block.sliced(plainFrom));
@@ -209,13 +225,14 @@ QString HighlightBlock(QStringView text, const SyntaxTables &tables, const Synta
         return text.toString();
     if (text.isEmpty())
         return {};
-    StreamBuffer out(text.size() * 5 / 2 + 200);
+    StreamBuffer out(text.size() * 5 / 2 + ColourTableRoom);
     out.Add(u"{{\\colortbl ;");
     for (const quint32 colour : {colours.keyword, colours.op, colours.function, colours.delimiter})
         out.Add(ColorTableEntry(colour));
     out.Add(u"}");
     StreamSink sink(text, tables, out);
     ScanSyntax(text, tables, sink);
+    out.MakeRoomFor(1);
     out.Add(u"}");
     return out.Take();
 }

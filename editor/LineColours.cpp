@@ -11,7 +11,10 @@ namespace brenix {
 
 namespace {
 
-    constexpr int LastGeneration = 0xFFFF;
+    constexpr int LastGeneration = 0x7FFF;
+    // Blocks of one line that get their formats when it is coloured; further ones get theirs when
+    // they are shown.
+    constexpr int LaidAtOnce = 8;
     constexpr QStringView LineEndText = u"\r\n";
 
     // The part of the formats between two places of a block, moved by `shift`.
@@ -78,41 +81,71 @@ void LineColours::ColourAll(int limit)
     }
 }
 
-void LineColours::ColourLineAlone(const QTextBlock &first, const QTextBlock &last, int limit)
+// Of a long line that is held in several blocks, only those are scanned that were edited, or that
+// follow one whose end has come to stand in another state.
+bool LineColours::ColourLineAlone(const QTextBlock &first, const QTextBlock &last, int limit)
 {
-    SetStates(first, last, {}, true, limit);
-    if (first == last)
-        Lay(first);
+    // The line behind keeps its colours, which it may not have been given yet.
+    if (last.next().isValid())
+        Lay(last.next());
+    if (last.position() + last.length() - 1 - first.position() > limit)
+        return MakePlain(first, last);
+    bool again = !StateOf(first).fresh;
+    int scanned = 0;
+    ScanState scan;
+    for (QTextBlock block = first;; block = block.next()) {
+        const BlockState state = StateOf(block);
+        again = again || !state.known || state.edited || state.plain;
+        if (again) {
+            ColourRuns(block.text(), m_tables, scan);
+            if (block == last)
+                scan = AfterLineEnd(scan, m_tables);
+            again = !state.known || state.plain || scan != state.end;
+            SetState(block, {.known = true, .fresh = block == first, .end = scan});
+            if (++scanned <= LaidAtOnce)
+                Lay(block);
+        }
+        scan = StateOf(block).end;
+        if (block == last)
+            return scanned > LaidAtOnce;
+    }
 }
 
 void LineColours::ColourInContext(const QTextBlock &first, const QTextBlock &last, int limit)
 {
-    SetStates(first, last, StateBefore(first), false, limit);
-}
-
-void LineColours::SetStates(
-    QTextBlock first, const QTextBlock &last, ScanState start, bool alone, int limit)
-{
+    if (last.position() + last.length() - 1 - first.position() > limit) {
+        MakePlain(first, last);
+        return;
+    }
     QString text;
     std::vector<int> ends;
     for (QTextBlock block = first;; block = block.next()) {
         text += block.text();
-        if (m_mirror.EndsInLineEnd(block) && !(alone && block == last))
+        if (m_mirror.EndsInLineEnd(block))
             text += LineEndText;
         ends.push_back(int(text.size()));
         if (block == last)
             break;
     }
-    const bool plain = text.size() > limit;
-    std::vector<ScanState> states(ends.size());
-    if (!plain)
-        states = StatesAt(text, m_tables, ends, start);
-    if (alone)
-        states.back() = AfterLineEnd(states.back(), m_tables);
+    const std::vector<ScanState> states = StatesAt(text, m_tables, ends, StateBefore(first));
     QTextBlock block = first;
-    for (std::size_t i = 0; i < states.size(); ++i, block = block.next()) {
-        SetState(block,
-                 {.known = true, .fresh = alone && i == 0, .plain = plain, .end = states[i]});
+    for (const ScanState &state : states) {
+        SetState(block, {.known = true, .end = state});
+        block = block.next();
+    }
+}
+
+bool LineColours::MakePlain(const QTextBlock &first, const QTextBlock &last)
+{
+    bool changed = false;
+    for (QTextBlock block = first;; block = block.next()) {
+        const BlockState state = StateOf(block);
+        if (!state.known || !state.plain) {
+            SetState(block, {.known = true, .plain = true, .end = {}});
+            changed = true;
+        }
+        if (block == last)
+            return changed;
     }
 }
 
@@ -152,6 +185,7 @@ void LineColours::Replace(int from, int length, const QString &heldText, int lim
         AddRuns(firstFormats, runsOf(text, {}, {}), headLength, newFirst.length() - 1);
         addTail(firstFormats);
         firstState.end = lastState.end;
+        firstState.edited = true;
         SetState(newFirst, firstState);
         SetFormats(newFirst, firstFormats);
         return;
@@ -161,6 +195,7 @@ void LineColours::Replace(int from, int length, const QString &heldText, int lim
             headLength,
             newFirst.length() - 1);
     firstState.end = states.front();
+    firstState.edited = true;
     SetState(newFirst, firstState);
     SetFormats(newFirst, firstFormats);
     QTextBlock block = newFirst.next();
@@ -172,6 +207,7 @@ void LineColours::Replace(int from, int length, const QString &heldText, int lim
             0,
             newLast.length() - 1);
     addTail(lastFormats);
+    lastState.edited = true;
     SetState(newLast, lastState);
     SetFormats(newLast, lastFormats);
 }
@@ -185,8 +221,12 @@ void LineColours::OnEdit(int from, int removed, int added, bool lines)
             block.setUserState(-1);
         return;
     }
-    const BlockState state = StateOf(block);
-    if (!state.known || state.generation != m_generation)
+    BlockState state = StateOf(block);
+    if (!state.known)
+        return;
+    state.edited = true;
+    SetState(block, state);
+    if (state.generation != m_generation)
         return;
     const int place = from - block.position();
     Formats formats;
@@ -239,8 +279,8 @@ void LineColours::Lay(const QTextBlock &block)
     SetFormats(block, formats);
 }
 
-// 1 bit each for known, fresh and plain, 8 for the rule, 4 for its paint, 16 for the generation; -1
-// is what a new block has.
+// 1 bit each for known, fresh, plain and edited, 8 for the rule, 4 for its paint, 15 for the
+// generation; -1 is what a new block has.
 LineColours::BlockState LineColours::StateOf(const QTextBlock &block)
 {
     const int bits = block.userState();
@@ -249,15 +289,17 @@ LineColours::BlockState LineColours::StateOf(const QTextBlock &block)
     return {.known = (bits & 1) != 0,
             .fresh = (bits & 2) != 0,
             .plain = (bits & 4) != 0,
-            .end = {.rule = (bits >> 3 & 0xFF) - 1, .paint = BlockPaint(bits >> 11 & 0xF)},
-            .generation = bits >> 15 & 0xFFFF};
+            .edited = (bits & 8) != 0,
+            .end = {.rule = (bits >> 4 & 0xFF) - 1, .paint = BlockPaint(bits >> 12 & 0xF)},
+            .generation = bits >> 16 & LastGeneration};
 }
 
 void LineColours::SetState(QTextBlock block, const BlockState &state)
 {
     const int rule = state.end.rule < 0xFF ? state.end.rule + 1 : 0;
-    block.setUserState(int(state.known) | int(state.fresh) << 1 | int(state.plain) << 2 | rule << 3
-                       | int(state.end.paint) << 11 | state.generation << 15);
+    block.setUserState(int(state.known) | int(state.fresh) << 1 | int(state.plain) << 2
+                       | int(state.edited) << 3 | rule << 4 | int(state.end.paint) << 12
+                       | state.generation << 16);
 }
 
 ScanState LineColours::StateBefore(const QTextBlock &block)

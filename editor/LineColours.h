@@ -29,8 +29,8 @@ public:
     /// units.
     void ColourAll(int limit);
     /// Colours the blocks of one line as if it stood alone: no block reaches into it from the line
-    /// before.
-    void ColourLineAlone(const QTextBlock &first, const QTextBlock &last, int limit);
+    /// before. True when more must be painted anew than what has changed its look at once.
+    bool ColourLineAlone(const QTextBlock &first, const QTextBlock &last, int limit);
     /// Colours a changed stretch of blocks in the light of what stands before it.
     void ColourInContext(const QTextBlock &first, const QTextBlock &last, int limit);
 
@@ -49,6 +49,7 @@ private:
         bool known = false; // false for a block that an edit of the view has made
         bool fresh = false; // coloured as if its line stood alone
         bool plain = false; // without colours
+        bool edited = false; // since its line was last coloured
         ScanState end;
         int generation = 0; // of its formats, 0 for none
     };
@@ -57,8 +58,7 @@ private:
     static BlockState StateOf(const QTextBlock &block);
     static void SetState(QTextBlock block, const BlockState &state);
     static ScanState StateBefore(const QTextBlock &block);
-    void SetStates(
-        QTextBlock first, const QTextBlock &last, ScanState start, bool alone, int limit);
+    bool MakePlain(const QTextBlock &first, const QTextBlock &last);
     void SetFormats(const QTextBlock &block, const Formats &formats);
     void AddRuns(Formats &formats, const std::vector<ColourRun> &runs, int shift, int end) const;
 

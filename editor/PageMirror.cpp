@@ -39,22 +39,23 @@ PageMirror::Stretch PageMirror::Become(const TextRope &target)
     return stretch;
 }
 
-bool PageMirror::BreakLongBlocks(int from, int length)
+PageMirror::Stretch PageMirror::BreakLongBlocks(int from, int length)
 {
-    bool broken = false;
+    Stretch cut;
     QTextBlock block = m_document->findBlock(from + length);
     while (block.isValid() && block.position() + block.length() > from) {
         const QTextBlock before = block.previous();
         if (block.length() > 2 * LongestBlock) {
             const std::vector<int> places = SoftBreakPlaces(block.text());
             const int start = block.position();
+            const int end = std::max(cut.from + cut.length, start + block.length() - 1);
             for (auto place = places.rbegin(); place != places.rend(); ++place)
                 Replace(start + *place, 0, QString(QChar(LineEnd::Soft)));
-            broken = true;
+            cut = {start, end - start + int(places.size())};
         }
         block = before;
     }
-    return broken;
+    return cut;
 }
 
 bool PageMirror::EndsInLineEnd(const QTextBlock &block) const

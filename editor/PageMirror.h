@@ -34,8 +34,9 @@ public:
         int length = 0;
     };
     Stretch Become(const TextRope &target);
-    /// Cuts the blocks of a stretch that have grown too long; true when there was one.
-    bool BreakLongBlocks(int from, int length);
+    /// Cuts the blocks of a stretch that have grown too long. Returns the stretch of the blocks
+    /// that were cut, of length 0 when there was none.
+    Stretch BreakLongBlocks(int from, int length);
     /// Whether the block ends in a line end, and not in a soft break or with the text.
     bool EndsInLineEnd(const QTextBlock &block) const;
     bool EndsInSoftBreak(const QTextBlock &block) const;

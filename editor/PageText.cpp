@@ -10,7 +10,14 @@ namespace brenix {
 namespace {
 
     // How far from its latest place a soft break looks for a better one.
-    constexpr int BreakSearch = 400;
+    constexpr int BreakSearch = 200;
+
+    bool MustStayTogether(QChar before, QChar behind)
+    {
+        const auto isCommentMark = [](QChar unit) { return unit == u'/' || unit == u'*'; };
+        return (before.isHighSurrogate() && behind.isLowSurrogate())
+            || (isCommentMark(before) && isCommentMark(behind));
+    }
 
     void AppendBlock(QString &held, QStringView block)
     {
@@ -89,7 +96,14 @@ QString HeldText(QStringView fileText)
 
 QString HeldText(QStringView text, char16_t lineEnd)
 {
-    return Held(text, [lineEnd](char16_t, bool) { return lineEnd; });
+    const auto unitFor = [lineEnd](char16_t, bool) { return lineEnd; };
+    if (!HoldsStandIns(text))
+        return Held(text, unitFor);
+    // No page holds these, and here they would mean others.
+    QString clean = text.toString();
+    for (const char16_t standIn : {0xFDD2, 0xFDD3, 0xFDD4})
+        clean.replace(QChar(standIn), QChar::ReplacementCharacter);
+    return Held(clean, unitFor);
 }
 
 QString FileTextOf(const TextRope &held)
@@ -156,7 +170,7 @@ std::vector<int> SoftBreakPlaces(QStringView block)
             --place;
         if (place == latest - BreakSearch)
             place = latest;
-        place -= block[place].isLowSurrogate() && block[place - 1].isHighSurrogate();
+        place -= MustStayTogether(block[place - 1], block[place]);
         places.push_back(place);
         from = place;
     }

@@ -36,8 +36,8 @@ std::vector<int> BlockEnds(const TextRope &held);
 
 /// Longest block that is left whole, and how long its pieces are when it is not. A key press costs
 /// what its block costs.
-constexpr int LongestBlock = 4096;
-constexpr int BlockPiece = 2048;
+constexpr int LongestBlock = 1024;
+constexpr int BlockPiece = 512;
 /// The places (from 0) in a block without breaks before which soft breaks should stand; behind a
 /// tag or blank where one is near, never inside a surrogate pair. Empty for a block that is not too
 /// long.

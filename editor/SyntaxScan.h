@@ -87,8 +87,13 @@ ScanState ScanSyntax(QStringView text, const SyntaxTables &tables, Sink &sink, S
         return state;
     while (position < length) {
         qsizetype next = position; // a copy that can live in a register
-        while (next < length && !tables.MayBegin(text[next].unicode()))
-            ++next;
+        if (wantsWords) {
+            while (next < length && !tables.MayBegin(text[next].unicode()))
+                ++next;
+        } else {
+            while (next < length && !tables.MayShow(text[next].unicode()))
+                ++next;
+        }
         position = next;
         if (position == length)
             break;

@@ -174,10 +174,6 @@ void SyntaxTables::RenewLookUps()
             m_wordKeys.insert(key, int(i));
     }
 
-    m_mayBegin.fill(false);
-    m_highMayBegin = false;
-    for (const QStringView delimiter : Delimiters)
-        m_mayBegin[delimiter.front().unicode()] = true;
     for (std::size_t i = 0; i < m_rules.size(); ++i) {
         BlockRule &rule = m_rules[i];
         rule.rivals.clear();
@@ -188,12 +184,35 @@ void SyntaxTables::RenewLookUps()
             else if (m_rules[earlier].end.startsWith(rule.end))
                 rule.rivals.push_back(int(earlier));
         }
-        if (rule.start.isEmpty())
+    }
+    RenewFirstUnits();
+}
+
+// What the first unit alone tells, for the scan's inner loop.
+void SyntaxTables::RenewFirstUnits()
+{
+    m_mayBegin.fill(false);
+    m_ruleOfUnit.fill(-1);
+    m_highMayBegin = false;
+    for (const QStringView delimiter : Delimiters)
+        m_mayBegin[delimiter.front().unicode()] = true;
+    for (std::size_t i = m_rules.size(); i-- > 0;) {
+        const QString &start = m_rules[i].start;
+        const qint8 answer = start.size() == 1 ? qint8(i) : SeveralRules;
+        if (start.isEmpty()) {
             m_mayBegin.fill(true);
-        if (rule.start.isEmpty() || rule.start.front().unicode() >= m_mayBegin.size())
+            m_ruleOfUnit.fill(SeveralRules);
+        } else if (start.front().unicode() < m_mayBegin.size()) {
+            m_mayBegin[start.front().unicode()] = true;
+            m_ruleOfUnit[start.front().unicode()] = answer;
+        }
+        if (start.isEmpty() || start.front().unicode() >= m_mayBegin.size())
             m_highMayBegin = true;
-        else
-            m_mayBegin[rule.start.front().unicode()] = true;
+    }
+    m_mayShow = m_mayBegin;
+    for (int index = 0; index <= LastPlainIndex; ++index) {
+        const char16_t unit = Delimiters[std::size_t(index)].front().unicode();
+        m_mayShow[unit] = m_ruleOfUnit[unit] != -1;
     }
 }
 
@@ -204,11 +223,16 @@ int SyntaxTables::FindWord(QStringView word) const
     if (!m_ignoreCase)
         return m_wordKeys.value(QString::fromRawData(word.data(), word.size()), -1);
     QVarLengthArray<QChar, 64> lower(word.size());
-    std::transform(word.begin(), word.end(), lower.begin(), [](QChar c) { return c.toLower(); });
+    // A letter of another script that only lower-cases into the alphabet (the Kelvin sign) is not
+    // that letter.
+    std::transform(word.begin(), word.end(), lower.begin(), [](QChar c) {
+        const QChar small = c.toLower();
+        return c.unicode() >= 0x80 && small.unicode() < 0x80 ? c : small;
+    });
     return m_wordKeys.value(QString::fromRawData(lower.data(), lower.size()), -1);
 }
 
-int SyntaxTables::FindBlockStart(QStringView text, qsizetype position) const
+int SyntaxTables::FindBlockStartByText(QStringView text, qsizetype position) const
 {
     const QChar first = text[position];
     for (std::size_t i = 0; i < m_rules.size(); ++i) {

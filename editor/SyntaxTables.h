@@ -61,7 +61,12 @@ public:
     };
     const BlockRule &RuleAt(int index) const { return m_rules[std::size_t(index)]; }
     /// The first rule that begins at `position` (from 0), -1 when none does.
-    int FindBlockStart(QStringView text, qsizetype position) const;
+    int FindBlockStart(QStringView text, qsizetype position) const
+    {
+        const char16_t unit = text[position].unicode();
+        const int only = unit < m_ruleOfUnit.size() ? m_ruleOfUnit[unit] : SeveralRules;
+        return only != SeveralRules ? only : FindBlockStartByText(text, position);
+    }
     /// Where the end of rule `rule` stands, at or behind `from`, and no earlier rule's end stands
     /// at the same place; -1 when nowhere.
     qsizetype FindBlockEnd(QStringView text, qsizetype from, int rule) const;
@@ -79,11 +84,20 @@ public:
     }
     static QStringView DelimiterAt(int index) { return Delimiters[std::size_t(index)]; }
 
+    /// Blank, line end and tab take no colour.
+    static bool ShowsColour(int delimiter) { return delimiter > LastPlainIndex; }
+
     /// False when neither a delimiter nor a block can begin with this unit: the scan passes over
     /// it.
     bool MayBegin(char16_t unit) const
     {
         return unit < m_mayBegin.size() ? m_mayBegin[unit] : m_highMayBegin;
+    }
+    /// The same for a scan that takes no interest in words, and so none in blanks, line ends and
+    /// tabs.
+    bool MayShow(char16_t unit) const
+    {
+        return unit < m_mayShow.size() ? m_mayShow[unit] : m_highMayBegin;
     }
 
 private:
@@ -105,6 +119,8 @@ private:
         u"}",
     };
     static constexpr int LineEndIndex = 1;
+    static constexpr int LastPlainIndex = 2; // blank, line end and tab show no colour
+    static constexpr qint8 SeveralRules = -2; // more than its first unit must be looked at
     static constexpr std::array<qint8, 128> DelimiterOfUnit = [] {
         std::array<qint8, 128> indexes{};
         indexes.fill(-1);
@@ -119,11 +135,15 @@ private:
     void LoadTidyWords();
     template <std::size_t Count> void AddWords(const char16_t *const (&words)[Count], WordClass);
     void RenewLookUps();
+    void RenewFirstUnits();
+    int FindBlockStartByText(QStringView text, qsizetype position) const;
 
     std::vector<Word> m_words;
     QHash<QString, int> m_wordKeys; // lower-cased where the language ignores case
     std::vector<BlockRule> m_rules;
     std::array<bool, 128> m_mayBegin{};
+    std::array<bool, 128> m_mayShow{};
+    std::array<qint8, 128> m_ruleOfUnit{};
     bool m_highMayBegin = false;
     int m_language = None;
     bool m_ignoreCase = false;

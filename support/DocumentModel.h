@@ -37,6 +37,9 @@ public:
     Observable<QString> lblAddress;
     /// A preview refresh is due.
     bool KeyDone = false;
+    /// The file of this name exists but could not be read: what the window shows must not be
+    /// written over it.
+    bool Unread = false;
     /// Source caret, kept while the design view is shown.
     int Sted = 0;
 

@@ -12,9 +12,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QTextBlock>
 #include <QVBoxLayout>
 
 namespace brenix {
@@ -24,6 +26,8 @@ namespace {
     constexpr int ControlColumn = 1;
     constexpr int ButtonColumn = 2;
     constexpr int Columns = 3;
+    constexpr qsizetype LongCaption = 40;
+    constexpr int LeastLines = 4;
 
     QString PlainCaption(const QString &caption)
     {
@@ -44,13 +48,35 @@ Form::Form(QWidget *page)
 template <typename Control>
 Control *Form::AddRow(const char16_t *name, const QString &caption, Control *control)
 {
-    const int row = m_grid->rowCount();
     control->setObjectName(QString::fromUtf16(name));
     control->setAccessibleName(PlainCaption(caption));
     auto *label = new QLabel(caption, m_page);
     label->setBuddy(control);
-    m_grid->addWidget(label, row, 0);
-    m_grid->addWidget(control, row, ControlColumn);
+    int row = m_grid->rowCount();
+    if (caption.size() < LongCaption) {
+        m_grid->addWidget(label, row, 0);
+        m_grid->addWidget(control, row, ControlColumn);
+    } else {
+        label->setWordWrap(true);
+        m_grid->addWidget(label, row++, 0, 1, Columns);
+        m_grid->addWidget(control, row, 0, 1, ButtonColumn);
+    }
+    return control;
+}
+
+/// A control that takes what height there is, its caption above it.
+template <typename Control>
+Control *Form::AddBelow(const char16_t *name, const QString &caption, Control *control)
+{
+    control->setObjectName(QString::fromUtf16(name));
+    control->setAccessibleName(PlainCaption(caption));
+    if (!caption.isEmpty()) {
+        auto *label = new QLabel(caption, m_page);
+        label->setWordWrap(true);
+        label->setBuddy(control);
+        Add(label);
+    }
+    Add(control, 1);
     return control;
 }
 
@@ -107,6 +133,7 @@ QSpinBox *Form::Number(
 {
     auto *box = AddRow(name, caption, new QSpinBox(m_page));
     box->setRange(least, most);
+    m_grid->setAlignment(box, Qt::AlignLeft);
     Bind([box, &field] { box->setValue(field); }, [box, &field] { field = box->value(); });
     return box;
 }
@@ -116,20 +143,37 @@ QListWidget *Form::List(const char16_t *name,
                         const QStringList &items,
                         QString &field)
 {
-    if (!caption.isEmpty())
-        Note(caption);
-    auto *list = new QListWidget(m_page);
-    list->setObjectName(QString::fromUtf16(name));
-    list->setAccessibleName(PlainCaption(caption));
+    auto *list = AddBelow(name, caption, new QListWidget(m_page));
     list->addItems(items);
-    Add(list, 1);
     Bind(
         [list, &field] {
             const QList<QListWidgetItem *> found = list->findItems(field, Qt::MatchFixedString);
             list->setCurrentItem(found.value(0));
         },
-        [list, &field] { field = list->currentItem() ? list->currentItem()->text() : QString(); });
+        [list, &field] {
+            if (const QListWidgetItem *item = list->currentItem())
+                field = item->text();
+        });
     return list;
+}
+
+QPlainTextEdit *Form::Lines(const char16_t *name, const QString &caption, QStringList &field)
+{
+    auto *box = AddBelow(name, caption, new QPlainTextEdit(m_page));
+    box->setLineWrapMode(QPlainTextEdit::NoWrap);
+    box->setTabChangesFocus(true);
+    box->setMinimumHeight(LeastLines * box->fontMetrics().lineSpacing());
+    Bind([box, &field] { box->setPlainText(field.join(u'\n')); },
+         [box, &field] {
+             field.clear();
+             // Block by block: the whole text would come with other blanks than were typed.
+             for (QTextBlock block = box->document()->begin(); block.isValid();
+                  block = block.next())
+                 field += block.text();
+             while (!field.isEmpty() && field.constLast().isEmpty())
+                 field.removeLast();
+         });
+    return box;
 }
 
 ColourButton *Form::Colour(const char16_t *name, const QString &caption, quint32 &field)
@@ -207,6 +251,10 @@ void Form::Add(QWidget *control, int stretch)
 
 void Form::AddStretch()
 {
+    for (int row = 0; row < m_grid->rowCount(); ++row) {
+        if (m_grid->rowStretch(row) > 0)
+            return;
+    }
     m_grid->setRowStretch(m_grid->rowCount(), 1);
 }
 

@@ -14,6 +14,7 @@ class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QPlainTextEdit;
 class QPushButton;
 class QSpinBox;
 
@@ -22,9 +23,9 @@ namespace brenix {
 class ColourButton;
 
 /// Rows of controls on a page, each bound to a field of a plain struct: a caption, its control, and
-/// room for a button beside it. Every function adds a row, names its control, shows the field's
-/// value, and gives the control back for whoever wants to do more with it. The fields must live as
-/// long as the form.
+/// room for a button beside it; a caption as long as a sentence stands above its control. Every
+/// function adds a row, names its control, shows the field's value, and gives the control back for
+/// whoever wants to do more with it. The fields must live as long as the form.
 class Form
 {
 public:
@@ -43,11 +44,14 @@ public:
                      const QStringList &items,
                      QString &field);
     QSpinBox *Number(const char16_t *name, const QString &caption, int least, int most, int &field);
-    /// A list of its own row; the field takes the chosen item, empty when none is.
+    /// A list of its own row; the field takes the chosen item, and stays when none is.
     QListWidget *List(const char16_t *name,
                       const QString &caption,
                       const QStringList &items,
                       QString &field);
+    /// A list of its own row to be edited as text, an item a line; empty lines at its end are
+    /// dropped.
+    QPlainTextEdit *Lines(const char16_t *name, const QString &caption, QStringList &field);
     /// A colour in blue-green-red order.
     ColourButton *Colour(const char16_t *name, const QString &caption, quint32 &field);
     struct Option
@@ -70,7 +74,7 @@ public:
     QLabel *Note(const QString &text);
     /// Any other control over the whole width.
     void Add(QWidget *control, int stretch = 0);
-    /// The rows keep to the top when the page is higher.
+    /// The rows keep to the top when the page is higher, unless one of them takes the room.
     void AddStretch();
 
     /// Shows the fields' values again, and takes the controls' values into the fields.
@@ -80,6 +84,8 @@ public:
 private:
     template <typename Control>
     Control *AddRow(const char16_t *name, const QString &caption, Control *control);
+    template <typename Control>
+    Control *AddBelow(const char16_t *name, const QString &caption, Control *control);
     void Bind(std::function<void()> load, std::function<void()> store);
     QPushButton *NewButton(const char16_t *name,
                            const QString &caption,

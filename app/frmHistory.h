@@ -1,0 +1,14 @@
+#pragma once
+
+#include "support/Form.h"
+
+namespace brenix {
+
+/// What changed in each version, the newest first.
+class frmHistory : public FormDialog
+{
+public:
+    explicit frmHistory(QWidget *parent = nullptr);
+};
+
+} // namespace brenix

@@ -1,0 +1,31 @@
+#include "bench/Program.h"
+#include "bench/Table.h"
+
+#include <QApplication>
+
+namespace bench {
+void RegisterColouring();
+void RegisterSnapshots();
+void RegisterKeys();
+void RegisterOpening();
+} // namespace bench
+
+int main(int argc, char **argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const bench::PrivateHome home;
+    QApplication::setCursorFlashTime(0); // nothing but the keys paints
+
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    bench::RegisterColouring();
+    bench::RegisterSnapshots();
+    bench::RegisterKeys();
+    bench::RegisterOpening();
+    bench::Table table;
+    benchmark::RunSpecifiedBenchmarks(&table);
+    return 0;
+}
