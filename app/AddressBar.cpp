@@ -5,7 +5,6 @@
 #include <QActionGroup>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -31,13 +30,14 @@ AddressBar::AddressBar(QWidget *parent)
 {
     setObjectName(u"Picture1"_s);
     setMovable(false);
-    const auto add = [this](QStyle::StandardPixmap icon, const QString &tip, auto signal) {
-        QAction *action = addAction(style()->standardIcon(icon), tip);
+    // Icons of a desktop theme would take longer to find than the rest of the window.
+    const auto add = [this](const QString &tip, auto signal) {
+        QAction *action = addAction(ProgramIcon(tip), tip);
         connect(action, &QAction::triggered, this, signal);
     };
-    add(QStyle::SP_ArrowBack, u"Back"_s, &AddressBar::Back);
-    add(QStyle::SP_ArrowForward, u"Forward"_s, &AddressBar::Forward);
-    add(QStyle::SP_BrowserReload, u"Refresh"_s, &AddressBar::RefreshClicked);
+    add(u"Back"_s, &AddressBar::Back);
+    add(u"Forward"_s, &AddressBar::Forward);
+    add(u"Refresh"_s, &AddressBar::RefreshClicked);
     addSeparator();
 
     auto *modes = new QActionGroup(this);

@@ -13,4 +13,9 @@ QIcon SkinIcon(QStringView name)
     return QIcon(AppPath(u"Skins/%1/%2.ico"_s.arg(skin, name)));
 }
 
+QIcon ProgramIcon(QStringView name)
+{
+    return QIcon(AppPath(u"Icons/%1.ico"_s.arg(name)));
+}
+
 } // namespace brenix

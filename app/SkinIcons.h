@@ -9,4 +9,7 @@ namespace brenix {
 /// none.
 QIcon SkinIcon(QStringView name);
 
+/// An icon of the program's own, which no skin replaces.
+QIcon ProgramIcon(QStringView name);
+
 } // namespace brenix

@@ -14,6 +14,8 @@ namespace brenix {
 
 namespace {
 
+    constexpr int WorthAPicture = 150; // ms
+
     int VersionPart(int index)
     {
         return QVersionNumber::fromString(QCoreApplication::applicationVersion()).segmentAt(index);
@@ -38,9 +40,13 @@ int VersionBuild()
 
 frmSplash::frmSplash()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
-    , m_status(new QLabel(this))
 {
     setObjectName(u"frmSplash"_s);
+    m_sinceStart.start();
+}
+
+void frmSplash::Build()
+{
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 24, 32, 20);
     auto *picture = new QLabel(this);
@@ -53,6 +59,7 @@ frmSplash::frmSplash()
     auto *version = new QLabel(
         u"Version %1.%2  built %3"_s.arg(VersionMajor()).arg(VersionMinor()).arg(VersionBuild()),
         this);
+    m_status = new QLabel(this);
     for (QLabel *label : {picture, name, version, m_status}) {
         label->setAlignment(Qt::AlignCenter);
         layout->addWidget(label);
@@ -63,7 +70,13 @@ frmSplash::frmSplash()
 
 void frmSplash::Say(const QString &text)
 {
-    m_status->setText(text);
+    if (!m_status && m_sinceStart.hasExpired(WorthAPicture)) {
+        Build();
+        show();
+    }
+    if (m_status)
+        m_status->setText(text);
+    setAccessibleDescription(text);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

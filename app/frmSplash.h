@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class QLabel;
 
 namespace brenix {
 
-/// The picture that stands while the program starts, with a line that says what it is at.
+/// The picture that stands while the program starts, with a line that says what it is at. A start
+/// that takes no time worth a picture shows none.
 class frmSplash : public QWidget
 {
 public:
@@ -16,7 +18,10 @@ public:
     void Say(const QString &text);
 
 private:
-    QLabel *m_status;
+    void Build();
+
+    QLabel *m_status = nullptr;
+    QElapsedTimer m_sinceStart;
 };
 
 /// "2.0.0" in its three parts.

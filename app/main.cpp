@@ -42,7 +42,6 @@ int main(int argc, char **argv)
     QApplication::setQuitOnLastWindowClosed(false);
 
     auto splash = std::make_unique<brenix::frmSplash>();
-    splash->show();
     brenix::frmMain window;
     if (qEnvironmentVariableIntValue("BRENIX_ANNOUNCE") != 0)
         AnnouncePreview(window);

@@ -140,15 +140,16 @@ namespace {
             chooser->selectFile(QDir::fromNativeSeparators(name));
     }
 
-    QString RunFileDialog(const FileDialog &dialog, QFileDialog::AcceptMode mode)
+    QString RunFileDialog(const FileDialog &dialog, QFileDialog::FileMode mode)
     {
         QFileDialog chooser(QApplication::activeWindow());
         chooser.setObjectName(u"FileDialog"_s);
         if (!dialog.title.isEmpty())
             chooser.setWindowTitle(dialog.title);
-        chooser.setAcceptMode(mode);
-        const bool isOpen = mode == QFileDialog::AcceptOpen;
-        chooser.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+        chooser.setFileMode(mode);
+        const bool isSave = mode == QFileDialog::AnyFile;
+        chooser.setAcceptMode(isSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        chooser.setOption(QFileDialog::ShowDirsOnly, mode == QFileDialog::Directory);
         // The captions name their patterns themselves.
         chooser.setOption(QFileDialog::HideNameFilterDetails);
         chooser.setNameFilters(NameFilters(dialog.filter));
@@ -159,7 +160,7 @@ namespace {
         if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
             return {};
         const QString path = chooser.selectedFiles().constFirst();
-        LastFolder() = QFileInfo(path).absolutePath();
+        LastFolder() = mode == QFileDialog::Directory ? path : QFileInfo(path).absolutePath();
         return QDir::toNativeSeparators(path);
     }
 
@@ -223,13 +224,21 @@ QString InputBox(const QString &prompt, const QString &proposal)
 QString OpenFileName(const FileDialog &dialog)
 {
     return Scripted().openFileName ? Scripted().openFileName(dialog)
-                                   : RunFileDialog(dialog, QFileDialog::AcceptOpen);
+                                   : RunFileDialog(dialog, QFileDialog::ExistingFile);
 }
 
 QString SaveFileName(const FileDialog &dialog)
 {
     return Scripted().saveFileName ? Scripted().saveFileName(dialog)
-                                   : RunFileDialog(dialog, QFileDialog::AcceptSave);
+                                   : RunFileDialog(dialog, QFileDialog::AnyFile);
+}
+
+QString ChooseFolder(const QString &title)
+{
+    if (Scripted().chooseFolder)
+        return Scripted().chooseFolder(title);
+    return RunFileDialog({.title = title, .filter = {}, .name = {}, .defaultSuffix = {}},
+                         QFileDialog::Directory);
 }
 
 std::optional<quint32> ChooseColour(quint32 colour)

@@ -41,6 +41,9 @@ struct FileDialog
 QString OpenFileName(const FileDialog &dialog);
 QString SaveFileName(const FileDialog &dialog); ///< asks before an existing file is overwritten
 
+/// The chosen folder, without a separator at its end; empty when cancelled.
+QString ChooseFolder(const QString &title);
+
 /// The system's colour dialog; colours in blue-green-red order, nothing when cancelled.
 std::optional<quint32> ChooseColour(quint32 colour);
 
@@ -53,6 +56,7 @@ struct ScriptedAnswers
     std::function<QString(const QString &prompt, const QString &proposal)> inputBox;
     std::function<QString(const FileDialog &dialog)> openFileName;
     std::function<QString(const FileDialog &dialog)> saveFileName;
+    std::function<QString(const QString &title)> chooseFolder;
     std::function<std::optional<quint32>(quint32 colour)> chooseColour;
 };
 ScriptedAnswers &Scripted();
