@@ -74,9 +74,10 @@ void frmSplash::Say(const QString &text)
         Build();
         show();
     }
-    if (m_status)
-        m_status->setText(text);
     setAccessibleDescription(text);
+    if (!m_status)
+        return;
+    m_status->setText(text);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

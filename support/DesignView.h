@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <functional>
@@ -33,14 +34,21 @@ public:
     /// The widget to lay out; it belongs to the parent that it was created with.
     virtual QWidget *Widget() = 0;
 
-    /// Shows a file for editing; false when it could not be shown, and the view is then blank.
+    /// The encoding of a page that neither has a byte order mark nor is UTF-8. To be set before the page is loaded.
+    QByteArray CharCode = "windows-1250";
+
+    /// Shows a file for editing, read as HTML whatever its name, with the pictures and style sheets of its folder. Waits
+    /// ten seconds at most; false when it could not be shown, and the view is then blank.
     virtual bool LoadDocument(const QString &path) = 0;
-    /// Writes `DocumentHTML` as a copy that is not the author's; false when that failed.
+    /// Writes `DocumentHTML` in the encoding of the loaded page to a claimed preview copy; false when that failed.
     virtual bool SaveDocument(const QString &path) = 0;
-    /// The doctype and the whole root element, line ends as CR LF; nothing when the page does not answer in time.
+    /// The page, line ends as CR LF; nothing when none is shown or the page does not answer in time. As long as it
+    /// has not been changed, or all changes are undone, this is the text that was loaded; after a change the root element is
+    /// as the web engine writes it, and what stands outside of it is still the author's.
     virtual std::optional<QString> DocumentHTML() = 0;
     /// Whether the author has changed the page since it was loaded.
     virtual bool IsDirty() = 0;
+    /// Draws the page again. Reads nothing from the disk.
     virtual void Refresh() = 0;
     virtual QString DocumentTitle() = 0;
     /// Replaces the selection by markup, unchanged.

@@ -9,28 +9,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-    // Both paths are compared as they really are: a symbolic link must not lead out of the folder.
-    bool LiesUnderFolderOf(const QUrl &page, const QUrl &url)
-    {
-        const QFileInfo pageFile(page.toLocalFile());
-        const QString file = QFileInfo(url.toLocalFile()).canonicalFilePath();
-        QString folder = QFileInfo(pageFile.absolutePath()).canonicalFilePath();
-        if (file.isEmpty() || folder.isEmpty())
-            return false;
-        if (file == pageFile.canonicalFilePath())
-            return true;
-        if (!folder.endsWith(u'/'))
-            folder += u'/';
-        return file.startsWith(folder);
-    }
-
     bool MayRead(const QWebEngineUrlRequestInfo &request)
     {
         const QUrl initiator = request.initiator();
         if (request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame)
             return initiator.isEmpty() || initiator.isLocalFile();
         const QUrl page = request.firstPartyUrl();
-        return page.isLocalFile() && LiesUnderFolderOf(page, request.requestUrl());
+        return page.isLocalFile()
+            && LiesUnderFolderOf(page.toLocalFile(), request.requestUrl().toLocalFile());
     }
 
     bool NeedsNetwork(const QUrl &url)
@@ -39,6 +25,21 @@ namespace {
     }
 
 } // namespace
+
+// Both paths are compared as they really are: a symbolic link must not lead out of the folder.
+bool LiesUnderFolderOf(const QString &page, const QString &path)
+{
+    const QFileInfo pageFile(page);
+    const QString file = QFileInfo(path).canonicalFilePath();
+    QString folder = QFileInfo(pageFile.absolutePath()).canonicalFilePath();
+    if (file.isEmpty() || folder.isEmpty())
+        return false;
+    if (file == pageFile.canonicalFilePath())
+        return true;
+    if (!folder.endsWith(u'/'))
+        folder += u'/';
+    return file.startsWith(folder);
+}
 
 void LocalFileGuard::interceptRequest(QWebEngineUrlRequestInfo &request)
 {

@@ -1,5 +1,7 @@
 #include "support/PreviewPage.h"
 
+#include "support/PageSetup.h"
+
 #include <QPointF>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineScript>
@@ -41,29 +43,15 @@ namespace {
 
     const QString placeName = u"place"_s;
 
-    QWebEngineScript OwnScript(const QString &name,
-                               const QString &code,
-                               QWebEngineScript::InjectionPoint point)
-    {
-        QWebEngineScript script;
-        script.setName(name);
-        script.setSourceCode(code);
-        script.setInjectionPoint(point);
-        script.setWorldId(QWebEngineScript::ApplicationWorld);
-        return script;
-    }
-
 } // namespace
 
 PreviewPage::PreviewPage(QWebEngineProfile *profile, QObject *parent)
     : QWebEnginePage(profile, parent)
 {
     setUrlRequestInterceptor(&m_guard);
-    QWebEngineSettings *options = settings();
-    options->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
-    options->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
-    options->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
-    options->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+    RestrictPage(*this);
+    settings()->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
+    settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     scripts().insert(
         OwnScript(u"leave"_s, leaveWithoutAsking.toString(), QWebEngineScript::DocumentCreation));
 

@@ -1,5 +1,7 @@
 #include "support/WebEngineModule.h"
 
+#include "support/DesignScheme.h"
+#include "support/WebDesignView.h"
 #include "support/WebEngineView.h"
 
 #include <QLoggingCategory>
@@ -17,6 +19,7 @@ namespace {
 
 WebEngineModule::WebEngineModule()
 {
+    DesignScheme::Register();
     // The requests of a shared worker pass by the guard: it could read any file.
     const QByteArray options = qgetenv(engineOptions);
     qputenv(engineOptions, options + " --disable-shared-workers");
@@ -34,6 +37,11 @@ BrowserView *WebEngineModule::CreateBrowserView(QWidget *parent)
         m_profile = profile;
     }
     return new WebEngineView(std::move(profile), parent);
+}
+
+DesignView *WebEngineModule::CreateDesignView(QWidget *parent)
+{
+    return new WebDesignView(parent);
 }
 
 } // namespace brenix

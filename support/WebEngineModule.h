@@ -10,8 +10,9 @@ class QWebEngineProfile;
 
 namespace brenix {
 
-/// The root object of the module. Its views share one profile that leaves nothing on the disk; it
-/// goes with the last view, since the engine must not lose a profile while a page of it lives.
+/// The root object of the module. Its previews share one profile that leaves nothing on the disk;
+/// it goes with the last of them, since the engine must not lose a profile while a page of it
+/// lives.
 class WebEngineModule final : public QObject, public WebModule
 {
     Q_OBJECT
@@ -21,6 +22,7 @@ class WebEngineModule final : public QObject, public WebModule
 public:
     WebEngineModule();
     BrowserView *CreateBrowserView(QWidget *parent) override;
+    DesignView *CreateDesignView(QWidget *parent) override;
 
 private:
     std::weak_ptr<QWebEngineProfile> m_profile;

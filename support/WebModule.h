@@ -7,6 +7,7 @@ class QWidget;
 namespace brenix {
 
 class BrowserView;
+class DesignView;
 
 /// What the web engine module offers. The engine is a large library: it is loaded when the first page is shown, not
 /// when the program starts, so that the source can be edited at once.
@@ -15,6 +16,7 @@ class WebModule
 public:
     virtual ~WebModule() = default;
     virtual BrowserView *CreateBrowserView(QWidget *parent) = 0;
+    virtual DesignView *CreateDesignView(QWidget *parent) = 0;
 };
 
 /// The module, loaded at the first call; null when it is not installed or cannot be loaded, and `WebModuleError`

@@ -1,11 +1,10 @@
 #include "support/BrowserView.h"
 #include "support/WebModule.h"
+#include "tests/support/Await.h"
 #include "tests/support/PrintQt.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -22,7 +21,6 @@
 #include <QWebEngineView>
 
 #include <csignal>
-#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
@@ -36,20 +34,6 @@ namespace {
 
 // The engine chooses what to draw with before any application object exists.
 [[maybe_unused]] const bool isPrepared = (PrepareForWebModule(), true);
-
-bool Await(const std::function<bool()> &condition)
-{
-    const QDeadlineTimer deadline(30'000);
-    QEventLoop loop;
-    QTimer pulse;
-    pulse.callOnTimeout(&loop, [&] {
-        if (condition() || deadline.hasExpired())
-            loop.quit();
-    });
-    pulse.start(5);
-    loop.exec();
-    return condition();
-}
 
 // Closes every message box that appears.
 class BoxCloser
