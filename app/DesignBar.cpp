@@ -1,5 +1,7 @@
 #include "app/DesignBar.h"
 
+#include "support/DesignView.h"
+
 #include <QComboBox>
 #include <QFontDatabase>
 
@@ -25,18 +27,50 @@ DesignBar::DesignBar(QWidget *parent)
     m_size->setAccessibleName(u"Font size"_s);
     for (QComboBox *box : {m_format, m_font, m_size})
         addWidget(box);
+    FillSizes();
+    FillBlockStyles();
+    FillFonts();
+    Link(m_font, Decmd::GetFontName, Decmd::SetFontName);
+    Link(m_size, Decmd::GetFontSize, Decmd::SetFontSize);
+    Link(m_format, Decmd::GetBlockFmt, Decmd::SetBlockFmt);
+}
+
+void DesignBar::Link(QComboBox *box, int get, int set)
+{
+    box->setFocusPolicy(Qt::TabFocus);
+    connect(box, &QComboBox::textActivated, this, [this, get, set](const QString &text) {
+        if (!m_view)
+            return;
+        if (m_view->ExecCommand(get) != text)
+            m_view->ExecCommand(set, text);
+        m_view->SetFocus();
+    });
+}
+
+void DesignBar::SetView(DesignView *view)
+{
+    m_view = view;
+    setEnabled(view != nullptr);
+    Follow();
+}
+
+void DesignBar::Follow()
+{
+    if (!m_view)
+        return;
+    m_font->setCurrentText(m_view->ExecCommand(Decmd::GetFontName));
+    m_size->setCurrentText(m_view->ExecCommand(Decmd::GetFontSize));
+    m_format->setCurrentText(m_view->ExecCommand(Decmd::GetBlockFmt));
 }
 
 void DesignBar::FillSizes()
 {
-    m_size->clear();
     for (int size = 1; size <= 7; ++size)
         m_size->addItem(QString::number(size));
 }
 
 void DesignBar::FillBlockStyles()
 {
-    m_format->clear();
     m_format->addItems({u"Normal"_s,
                         u"Formatted"_s,
                         u"Address"_s,
@@ -53,13 +87,6 @@ void DesignBar::FillBlockStyles()
                         u"Definition Term"_s,
                         u"Definition"_s,
                         u"Paragraph"_s});
-}
-
-void DesignBar::showEvent(QShowEvent *event)
-{
-    if (m_font->count() == 0)
-        FillFonts();
-    QToolBar::showEvent(event);
 }
 
 void DesignBar::FillFonts()

@@ -6,6 +6,8 @@ class QComboBox;
 
 namespace brenix {
 
+class DesignView;
+
 /// The bar with font, font size and block style of the design view.
 class DesignBar : public QToolBar
 {
@@ -14,16 +16,19 @@ class DesignBar : public QToolBar
 public:
     explicit DesignBar(QWidget *parent = nullptr);
 
-    void FillSizes();
-    void FillBlockStyles();
-
-protected:
-    /// Reading all fonts takes time: it is done when the bar is first shown.
-    void showEvent(QShowEvent *event) override;
+    /// The boxes act on this view from now on; null for none.
+    void SetView(DesignView *view);
+    /// Shows font, size and style of the selection.
+    void Follow();
 
 private:
+    void FillSizes();
+    void FillBlockStyles();
     void FillFonts();
 
+    void Link(QComboBox *box, int get, int set);
+
+    DesignView *m_view = nullptr;
     QComboBox *m_font; // Font1
     QComboBox *m_size; // cobSize
     QComboBox *m_format; // cobFormat

@@ -17,9 +17,6 @@ Toolbox::Toolbox(QWidget *parent)
 {
     setObjectName(u"Toolbox"_s);
     m_title->setObjectName(u"Label1"_s);
-    QFont bold = m_title->font();
-    bold.setBold(true);
-    m_title->setFont(bold);
 
     auto *close = new QToolButton(this);
     close->setObjectName(u"Image2"_s);
@@ -38,6 +35,13 @@ Toolbox::Toolbox(QWidget *parent)
     layout->setSpacing(0);
     layout->addLayout(titleBar);
     layout->addWidget(m_panes, 1);
+    m_panes->hide();
+    layout->addStretch();
+}
+
+void Toolbox::ShowPanes()
+{
+    m_panes->show();
 }
 
 void Toolbox::AddPane(QWidget *pane, const QString &title)

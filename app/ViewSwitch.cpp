@@ -1,7 +1,11 @@
 #include "app/ViewSwitch.h"
 
+#include "app/TakeDesign.h"
 #include "support/BrowserView.h"
+#include "support/DesignView.h"
+#include "support/MessageBoxes.h"
 #include "support/Paths.h"
+#include "support/PreviewCopies.h"
 #include "support/SettingsStore.h"
 #include "support/SourceView.h"
 
@@ -13,26 +17,89 @@ namespace {
 
     constexpr int RefreshAtOnce = 1; // ms
 
-    void ShowServerPage(DocumentModel &document, const MainWindowBars &bars)
+    const QString FrameWarning = u"It seems like your webpage contains frames. The design part of "
+                                 u"Brenix does not support frames (just "
+                                 "floating frame). However, the rest of Brenix supports frames "
+                                 "perfectly. Continuing can destroy your webpage "
+                                 "if you not have saved it. Do you want to continue?"_s;
+    const QString NoDesign = u"The page can't be shown in the design view."_s;
+    const QString NoAnswer
+        = u"The design view does not answer. The source is as it was before the design view was "
+          "opened."_s;
+
+    void ShowServerPage(DocumentModel &document,
+                        const MainWindowBars &bars,
+                        const QString &whenEmpty)
     {
         BrowserView *browser = document.WebBrowser1();
         if (!browser)
             return;
         const QString address = bars.Address().trimmed();
-        browser->Navigate(address.isEmpty()
-                              ? u"about:You have to write an address in the address field"_s
-                              : address);
+        browser->Navigate(address.isEmpty() ? u"about:"_s + whenEmpty : address);
     }
 
-    void EnterPreview(DocumentModel &document, const MainWindowBars &bars)
+    void ShowPreviewCopy(DocumentModel &document)
     {
-        if (!bars.IsLocalMode()) {
-            ShowServerPage(document, bars);
-            return;
-        }
         document.WritePreview();
         document.KeyDone = true;
         document.ArmRefresher(RefreshAtOnce);
+    }
+
+    // False when the author stays out of the design view, or it could not be shown.
+    bool EnterDesign(DocumentModel &document)
+    {
+        if (document.rtfText().Text().contains(u"<frame"_s, Qt::CaseInsensitive)
+            && MsgBox(FrameWarning, Buttons::YesNo, Icon::Information) == Answer::No)
+            return false;
+        document.WritePreview();
+        DesignView *design = document.Design();
+        if (!design || !document.LoadDesign()) {
+            MsgBox(NoDesign, Buttons::Ok, Icon::Warning);
+            return false;
+        }
+        document.Des = u"1"_s;
+        return true;
+    }
+
+    // The source takes the text back; the design edit can be undone as a whole.
+    void LeaveDesign(DocumentModel &document, bool cleaned)
+    {
+        document.rtfText().AddUndo();
+        if (!TakeDesignText(document, cleaned))
+            MsgBox(NoAnswer, Buttons::Ok, Icon::Warning);
+        document.Des = u"0"_s;
+        DropPreviewCopy(DesignInputName(document.Banen()));
+        ShowPreviewCopy(document);
+    }
+
+    // The two wordings for an empty address differ.
+    void EnterPreview(DocumentModel &document, const MainWindowBars &bars)
+    {
+        const bool fromDesign = document.Des() == u"1";
+        if (!bars.IsLocalMode())
+            ShowServerPage(document,
+                           bars,
+                           fromDesign ? u"you have to write an address in the address field"_s
+                                      : u"You have to write an address in the address field"_s);
+        else if (fromDesign)
+            LeaveDesign(document, false);
+        else
+            ShowPreviewCopy(document);
+    }
+
+    void PrepareBars(DocumentModel &document, MainWindowBars &bars, const QString &status)
+    {
+        document.RunLayout();
+        if (status == u"HTML" || status == u"Split")
+            SaveSetting(u"Settings", u"Mode", status);
+        document.RemoveLists();
+        bars.ShowBarsFor(status);
+        if (status != u"Preview")
+            return;
+        if (BrowserView *browser = document.WebBrowser1())
+            browser->SetOffline(false);
+        document.lblAddress = ServerAddress(document.Caption());
+        bars.SetAddress(document.lblAddress());
     }
 
 } // namespace
@@ -40,23 +107,22 @@ namespace {
 void RunViewSwitch(DocumentModel &document, MainWindowBars &bars)
 {
     const QString status = document.Status();
-    document.RunLayout();
-    if (status == u"HTML" || status == u"Split")
-        SaveSetting(u"Settings", u"Mode", status);
-    document.RemoveLists();
-    bars.ShowBarsFor(status);
-    if (status == u"Preview") {
-        if (BrowserView *browser = document.WebBrowser1())
-            browser->SetOffline(false);
-        document.lblAddress = ServerAddress(document.Caption());
-        bars.SetAddress(document.lblAddress());
-    }
+    PrepareBars(document, bars, status);
     if (document.Load() == u"1") {
         document.Load = u"0"_s;
         return;
     }
-    if (status == u"Preview")
+    if (status == u"Design") {
+        // Assigned again while the design view is shown, it holds the newest text already.
+        if (document.Des() != u"1" && !EnterDesign(document)) {
+            document.Status = u"Split"_s;
+            return;
+        }
+    } else if (status == u"Preview") {
         EnterPreview(document, bars);
+    } else if (document.Des() == u"1" && (status == u"HTML" || status == u"Split")) {
+        LeaveDesign(document, true);
+    }
     if (document.Des() == u"0")
         document.rtfText().SetSelStart(document.Sted);
 }

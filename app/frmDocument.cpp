@@ -2,9 +2,11 @@
 
 #include "app/CloseProtocol.h"
 #include "app/Documents.h"
+#include "app/TakeDesign.h"
 #include "app/ViewSwitch.h"
 #include "editor/CodeHighlight.h"
 #include "support/BrowserView.h"
+#include "support/DesignView.h"
 #include "support/MessageBoxes.h"
 #include "support/Paths.h"
 #include "support/PreviewCopies.h"
@@ -87,6 +89,7 @@ frmDocument::frmDocument(MainWindowBars &bars, const QString &caption, QWidget *
 frmDocument::~frmDocument()
 {
     delete m_browser;
+    delete m_design;
 }
 
 void frmDocument::ConnectFields()
@@ -121,6 +124,7 @@ void frmDocument::SaveByItself()
         return;
     if (std::exchange(m_autoSaveFailed, true))
         return;
+    BringDesignToSource();
     m_autoSaveFailed = !m_source->SaveFile(Caption());
 }
 
@@ -183,6 +187,7 @@ void frmDocument::StartWith(const QString &text, int caret)
 // A file that could not be read is not written over by what the window shows in its place.
 bool frmDocument::Save()
 {
+    BringDesignToSource();
     if (IsUntitled(Caption()) || (Unread && QFile::exists(Caption())))
         return SaveAs(u"Save"_s);
     if (!m_source->SaveFile(Caption()))
@@ -193,6 +198,7 @@ bool frmDocument::Save()
 
 bool frmDocument::SaveAs(const QString &title)
 {
+    BringDesignToSource();
     const QString start = IsUntitled(Caption()) ? u"*.html"_s : Caption();
     const QString path = SaveFileName({.title = title,
                                        .filter = QString::fromUtf16(SaveFilter),
@@ -298,8 +304,17 @@ void frmDocument::OnRefresher()
     emit FilesChanged();
 }
 
+// Saving from the design view leaves the view as it is.
+void frmDocument::BringDesignToSource()
+{
+    if (Status() == u"Design" && m_design && m_design->IsDirty())
+        TakeDesignText(*this, true);
+}
+
 bool frmDocument::AgreeToClose()
 {
+    if (m_design && Status() == u"Design" && m_design->IsDirty())
+        Status = u"HTML"_s;
     // The question goes by the status bar, which shows the active document.
     Form_Activate();
     m_mayClose = MayClose(*this, m_bars, Caption());
@@ -314,6 +329,7 @@ void frmDocument::closeEvent(QCloseEvent *event)
     }
     for (QTimer *timer : {&m_refresher, &m_copyWriter, &m_autoSave, &m_previewStart})
         timer->stop();
+    DropPreviewCopy(DesignInputName(Banen()));
     DropPreviewCopy(Banen());
     event->accept();
 }

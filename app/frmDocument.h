@@ -25,7 +25,9 @@ public:
 
     SourceView &rtfText() override;
     BrowserView *WebBrowser1() override { return m_browser; }
+    DesignView *Design() override;
     void WritePreview() override;
+    bool LoadDesign() override;
     void ArmRefresher(int milliseconds) override;
     void RunLayout() override;
     void RemoveLists() override { }
@@ -46,6 +48,8 @@ public:
     /// What the main window must know again when this window becomes active or gets another name.
     void Form_Activate();
     int ViewBarHeight() const;
+    /// Shows the design view, and keeps the source's caret for the way back.
+    void EnterDesignView();
     /// Asks what closing must ask, and saves where the author wants it. False when the page is to
     /// stay; after true, closing asks nothing, until `StayOpen`.
     bool AgreeToClose();
@@ -62,6 +66,9 @@ signals:
     /// The preview has shown the page.
     void PreviewPainted();
     void PreviewStatus(const QString &text);
+    /// The selection of the design view, or what it shows, has changed.
+    void DesignChanged();
+    void ActiveElement(const QString &tagName);
     /// The page's directory is to be listed anew.
     void FilesChanged();
     void ContextMenu(const QPoint &globalPosition);
@@ -83,6 +90,7 @@ private:
     void OnRefresher();
     void FollowCaption();
     void SaveByItself();
+    void BringDesignToSource();
     void NeedPreview();
     void CreatePreview();
     QRect ViewArea() const;
@@ -90,6 +98,7 @@ private:
     MainWindowBars &m_bars;
     CodeHighlight *m_source;
     BrowserView *m_browser = nullptr;
+    DesignView *m_design = nullptr;
     QLabel *m_previewPlace; // stands where the preview will be until the web engine is up
     SplitBar *m_splitH;
     SplitBar *m_splitV;

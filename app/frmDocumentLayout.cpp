@@ -1,7 +1,11 @@
 #include "app/SplitBar.h"
+#include "app/TakeDesign.h"
 #include "app/frmDocument.h"
 #include "editor/CodeHighlight.h"
 #include "support/BrowserView.h"
+#include "support/DesignView.h"
+#include "support/PreviewCopies.h"
+#include "support/SettingsStore.h"
 #include "support/WebModule.h"
 
 #include <QAction>
@@ -35,6 +39,7 @@ namespace {
         {u"Split", u"Split", u"Source and preview (F6)"},
         {u"HTML", u"HTML", u"Source (F7)"},
         {u"Preview", u"Preview", u"The page as a browser shows it (F8)"},
+        {u"Design", u"Design", u"The page as it looks, to be edited (F9)"},
     };
 
 } // namespace
@@ -52,6 +57,10 @@ void frmDocument::BuildViewBar()
         action->setCheckable(true);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, status] {
+            if (status == u"Design") {
+                EnterDesignView();
+                return;
+            }
             Status = status;
             if (status != u"HTML")
                 RefreshPreview(ButtonRefresh);
@@ -93,11 +102,17 @@ void frmDocument::RunLayout()
         NeedPreview();
     QWidget *preview = m_browser ? m_browser->Widget() : m_previewPlace;
 
+    const bool design = status == u"Design" && m_design;
+
     m_viewBar->setGeometry(0, area.height(), width(), height() - area.height());
     if (split)
         PlaceSplit();
+    else if (design)
+        m_design->Widget()->setGeometry(area);
     else
         (previewShown ? preview : m_source)->setGeometry(area);
+    if (m_design)
+        m_design->Widget()->setVisible(design);
     m_splitH->setVisible(split && !vertical);
     m_splitV->setVisible(split && vertical);
     m_source->setVisible(status != u"Preview" && status != u"Design");
@@ -167,6 +182,44 @@ void frmDocument::keyPressEvent(QKeyEvent *event)
         parentWidget()->close();
     else
         QWidget::keyPressEvent(event);
+}
+
+void frmDocument::EnterDesignView()
+{
+    Sted = m_source->SelStart();
+    Status = u"Design"_s;
+    if (m_design && Status() == u"Design")
+        m_design->SetFocus();
+}
+
+DesignView *frmDocument::Design()
+{
+    WebModule *module = m_design ? nullptr : LoadWebModule();
+    if (!module)
+        return m_design;
+    m_design = module->CreateDesignView(this);
+    m_design->Widget()->setObjectName(u"Design"_s);
+    m_design->Widget()->setAccessibleName(u"Design"_s);
+    m_design->DisplayChanged = [this] { emit DesignChanged(); };
+    m_design->ActiveElement = [this](const QString &tagName) { emit ActiveElement(tagName); };
+    m_design->LinkHovered = [this](const QString &address) {
+        m_design->Widget()->setToolTip(address.isEmpty() ? QString() : u"Link to : "_s + address);
+    };
+    m_design->Edited = [this] {
+        if (m_design->IsDirty() && Modyfied() != u"1")
+            Modyfied = u"1"_s;
+    };
+    RunLayout();
+    return m_design;
+}
+
+bool frmDocument::LoadDesign()
+{
+    if (!Design() || Banen().isEmpty())
+        return false;
+    const QString path = ClaimPreviewCopy(DesignInputName(Banen()));
+    m_design->CharCode = GetSetting(u"Editor", u"Encoding", u"windows-1250"_s).toLatin1();
+    return WritePreviewCopy(path, m_source->FileBytes()) && m_design->LoadDocument(path);
 }
 
 void frmDocument::NeedPreview()

@@ -2,12 +2,14 @@
 
 #include "app/AddressBar.h"
 #include "app/DesignBar.h"
+#include "app/DesignTools.h"
 #include "app/NewDocumentPane.h"
 #include "app/SkinIcons.h"
 #include "app/Toolbox.h"
 #include "app/frmDocument.h"
 #include "editor/CodeHighlight.h"
 #include "support/BrowserView.h"
+#include "support/DesignView.h"
 #include "support/Paths.h"
 
 #include <QBoxLayout>
@@ -198,9 +200,6 @@ void frmMain::BuildToolbars()
     });
     connect(m_addressBar, &AddressBar::ScreenChosen, this, &frmMain::ResizeToScreen);
 
-    m_designBar = new DesignBar(this);
-    addToolBar(m_designBar);
-    m_designBar->hide();
     EnableDocumentCommands(ActiveForm() != nullptr);
 }
 
@@ -228,6 +227,10 @@ void frmMain::BuildStatusBars()
     m_previewBar = addBar(u"SB2"_s);
     m_previewText = addPanel(m_previewBar, u"Panel1"_s, 1);
     m_previewBar->hide();
+    m_designStatus = addBar(u"Sta"_s);
+    m_titlePanel = addPanel(m_designStatus, u"Panel1"_s, 1);
+    m_elementPanel = addPanel(m_designStatus, u"Panel2"_s, 0);
+    m_designStatus->hide();
 }
 
 frmDocument *frmMain::ActiveForm() const
@@ -259,8 +262,39 @@ void frmMain::ShowBarsFor(const QString &status)
     const bool sourceSide = status == u"HTML" || status == u"Split";
     m_sourceBar->setVisible(sourceSide);
     m_previewBar->setVisible(status == u"Preview");
+    m_designStatus->setVisible(status == u"Design");
     if (m_addressBar)
         m_addressBar->setVisible(sourceSide && m_menu->ActionOf(u"mnuViewToolbar"_s)->isChecked());
+    ShowDesignBars(status == u"Design");
+}
+
+// Made when a page is first shown in the design view: reading all fonts takes time.
+void frmMain::ShowDesignBars(bool shown)
+{
+    if (shown && !m_designBar) {
+        m_designTools = new DesignTools(this);
+        addToolBar(m_designTools);
+        m_designBar = new DesignBar(this);
+        addToolBar(m_designBar);
+    }
+    if (!m_designBar)
+        return;
+    frmDocument *document = ActiveForm();
+    DesignView *view = shown && document ? document->Design() : nullptr;
+    m_designTools->SetView(view);
+    m_designBar->SetView(view);
+    m_designTools->setVisible(shown);
+    m_designBar->setVisible(shown);
+}
+
+void frmMain::FollowDesign()
+{
+    frmDocument *document = ActiveForm();
+    if (!document || document->Status() != u"Design" || !m_designBar)
+        return;
+    m_designTools->Follow();
+    m_designBar->Follow();
+    m_titlePanel->setText(document->Design()->DocumentTitle());
 }
 
 void frmMain::ShowModified(const QString &text)

@@ -19,6 +19,7 @@ namespace brenix {
 
 class AddressBar;
 class DesignBar;
+class DesignTools;
 class frmDocument;
 class frmSplash;
 class NewDocumentPane;
@@ -111,9 +112,13 @@ private:
     void RebuildWindowMenu();
     void TickViewMenu();
     void ShowCaret();
+    void ShowDesignBars(bool shown);
+    void FollowDesign();
     void ShowToolbox(bool shown);
     void ShowNewDocumentPane(const QString &notice);
     void FillBrowserMenu();
+    template <typename Reference> void ShowReference();
+    void ShowOptions();
     void TileWindows(Qt::Orientation orientation);
     void ArrangeIcons();
     void ResizeToScreen(const QString &screen);
@@ -129,8 +134,12 @@ private:
     QToolBar *m_noWindows = nullptr;
     AddressBar *m_addressBar = nullptr; // Picture1
     DesignBar *m_designBar = nullptr; // Picture2
+    DesignTools *m_designTools = nullptr; // Picture3
     QWidget *m_sourceBar = nullptr; // sbStatusBar
     QWidget *m_previewBar = nullptr; // SB2
+    QWidget *m_designStatus = nullptr; // Sta
+    QLabel *m_titlePanel = nullptr;
+    QLabel *m_elementPanel = nullptr;
     QLabel *m_linePanel = nullptr;
     QLabel *m_characterPanel = nullptr;
     QLabel *m_modifiedPanel = nullptr;

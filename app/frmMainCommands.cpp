@@ -1,12 +1,18 @@
 #include "app/AddressBar.h"
 #include "app/ExternalBrowser.h"
+#include "app/Form31.h"
+#include "app/Form32.h"
 #include "app/NewDocumentPane.h"
 #include "app/PrintSource.h"
 #include "app/Toolbox.h"
+#include "app/frmAbout.h"
 #include "app/frmDocument.h"
+#include "app/frmHistory.h"
 #include "app/frmMain.h"
+#include "app/frmOptions.h"
 #include "app/frmTip.h"
 #include "editor/CodeHighlight.h"
+#include "support/DesignView.h"
 #include "support/MessageBoxes.h"
 #include "support/SettingsStore.h"
 
@@ -92,44 +98,53 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
     commands[u"mnuFileExit"_s] = [this] { close(); };
 }
 
+// Each command goes to the design view while that is shown, else to the source.
 void frmMain::AddEditCommands(MainMenu::Commands &commands)
 {
-    const auto onSource = [this](auto command) {
-        return [this, command] {
-            ForActive([&](frmDocument &document) { command(document, document.Source()); });
+    const auto onView = [this](int designCommand, auto command) {
+        return [this, designCommand, command] {
+            ForActive([&](frmDocument &document) {
+                if (document.Status() == u"Design" && document.Design())
+                    document.Design()->ExecCommand(designCommand);
+                else
+                    command(document, document.Source());
+            });
         };
     };
     commands[u"mnuEditUndo"_s]
-        = onSource([](frmDocument &, CodeHighlight &source) { source.Undo(); });
+        = onView(Decmd::Undo, [](frmDocument &, CodeHighlight &source) { source.Undo(); });
     commands[u"mnuEditmnuEditRedo"_s]
-        = onSource([](frmDocument &, CodeHighlight &source) { source.Redo(); });
+        = onView(Decmd::Redo, [](frmDocument &, CodeHighlight &source) { source.Redo(); });
     commands[u"mnuEditCopy"_s]
-        = onSource([](frmDocument &, CodeHighlight &source) { Copy(source); });
-    commands[u"mnuEditCut"_s] = onSource([](frmDocument &document, CodeHighlight &source) {
-        Copy(source);
-        if (source.SelLength() == 0 || source.isReadOnly())
-            return;
-        source.SetSelText({});
-        source.AddUndo();
-        document.KeyDone = true;
-    });
-    commands[u"mnuEditPaste"_s] = onSource([](frmDocument &document, CodeHighlight &source) {
-        const QString text = QGuiApplication::clipboard()->text();
-        if (text.isEmpty() || source.isReadOnly())
-            return;
-        source.SetSelText(text);
-        source.ensureCursorVisible();
-        source.AddUndo();
-        document.KeyDone = true;
-    });
-    commands[u"mnuDelete"_s] = onSource([](frmDocument &, CodeHighlight &source) {
+        = onView(Decmd::Copy, [](frmDocument &, CodeHighlight &source) { Copy(source); });
+    commands[u"mnuEditCut"_s]
+        = onView(Decmd::Cut, [](frmDocument &document, CodeHighlight &source) {
+              Copy(source);
+              if (source.SelLength() == 0 || source.isReadOnly())
+                  return;
+              source.SetSelText({});
+              source.AddUndo();
+              document.KeyDone = true;
+          });
+    commands[u"mnuEditPaste"_s]
+        = onView(Decmd::Paste, [](frmDocument &document, CodeHighlight &source) {
+              const QString text = QGuiApplication::clipboard()->text();
+              if (text.isEmpty() || source.isReadOnly())
+                  return;
+              source.SetSelText(text);
+              source.ensureCursorVisible();
+              source.AddUndo();
+              document.KeyDone = true;
+          });
+    commands[u"mnuDelete"_s] = onView(Decmd::Delete, [](frmDocument &, CodeHighlight &source) {
         if (!source.isReadOnly())
             source.SetSelText({});
     });
-    commands[u"mnuSelectAll"_s] = onSource([](frmDocument &, CodeHighlight &source) {
-        source.SetSelStart(0);
-        source.SetSelLength(source.TextLength());
-    });
+    commands[u"mnuSelectAll"_s]
+        = onView(Decmd::SelectAll, [](frmDocument &, CodeHighlight &source) {
+              source.SetSelStart(0);
+              source.SetSelLength(source.TextLength());
+          });
 }
 
 void frmMain::AddViewCommands(MainMenu::Commands &commands)
@@ -159,6 +174,8 @@ void frmMain::AddViewCommands(MainMenu::Commands &commands)
             });
         };
     }
+    commands[u"mnuDesignMode"_s]
+        = [this] { ForActive([](frmDocument &document) { document.EnterDesignView(); }); };
     commands[u"mnuViewRefresh"_s] = [this] {
         ForActive([](frmDocument &document) { document.RefreshPreview(ForcedRefresh); });
     };
@@ -175,10 +192,47 @@ void frmMain::AddWindowCommands(MainMenu::Commands &commands)
     commands[u"mnuWindowTileHorizontal"_s] = [this] { TileWindows(Qt::Horizontal); };
     commands[u"mnuWindowTileVertical"_s] = [this] { TileWindows(Qt::Vertical); };
     commands[u"mnuWindowArrangeIcons"_s] = [this] { ArrangeIcons(); };
+    commands[u"mnuHelpAbout"_s] = [this] { frmAbout(this).exec(); };
+    commands[u"mnuHistory"_s] = [this] { frmHistory(this).exec(); };
+    commands[u"mnuASPobjects"_s] = [this] { ShowReference<Form31>(); };
+    commands[u"mnuFunctions"_s] = [this] { ShowReference<Form32>(); };
+    commands[u"mnuToolsOptions"_s] = [this] { ShowOptions(); };
     commands[u"mnuHelpTip"_s] = [this] {
         SaveSetting(u"Options", u"Show Tips at Startup", u"1"_s);
         frmTip(this).exec();
     };
+}
+
+// A reference stays open beside the page; the name that is chosen in it goes to the caret.
+template <typename Reference> void frmMain::ShowReference()
+{
+    const auto insert = [this](const QString &name) {
+        ForActive([&](frmDocument &document) {
+            if (document.Status() == u"Design" || document.Source().isReadOnly())
+                return;
+            document.Source().AddUndo();
+            document.Source().SetSelText(name);
+        });
+    };
+    auto *window = new Reference(insert, this);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+}
+
+void frmMain::ShowOptions()
+{
+    frmOptions dialog(this);
+    dialog.Applied = [this](const Options &options) {
+        for (frmDocument *document : Documents()) {
+            document->ConfigureSource();
+            document->Source().SetGiveCorrectCase(options.giveCorrectCase);
+            document->Source().Recolour();
+        }
+        ForActive([](frmDocument &document) { document.Form_Activate(); });
+        FillBrowserMenu();
+    };
+    dialog.RecentCleared = [this] { m_newDocumentPane->RebuildOpenList(); };
+    dialog.exec();
 }
 
 // Captions from the options; an entry without a program can't be chosen.
@@ -247,6 +301,7 @@ void frmMain::TickViewMenu()
     m_menu->ActionOf(u"mnuSplitMode"_s)->setChecked(status == u"Split");
     m_menu->ActionOf(u"mnuHtmlMode"_s)->setChecked(status == u"HTML");
     m_menu->ActionOf(u"mnuPreviewMode"_s)->setChecked(status == u"Preview");
+    m_menu->ActionOf(u"mnuDesignMode"_s)->setChecked(status == u"Design");
 }
 
 void frmMain::EnableDocumentCommands(bool enabled)

@@ -1,4 +1,3 @@
-#include "app/DesignBar.h"
 #include "app/Documents.h"
 #include "app/LanguageFile.h"
 #include "app/NewDocumentPane.h"
@@ -89,8 +88,8 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
     m_newDocumentPane->SetTemplates(QDir(AppPath(u"Templates")).entryList(QDir::Files, QDir::Name));
     splash.Say(u"Loading browserlist..."_s);
     FillBrowserMenu();
-    m_designBar->FillSizes();
-    // The design bar reads them when it is first shown.
+    // The design bar, which holds sizes, fonts and styles, fills its lists when the first page is
+    // shown in it.
     splash.Say(u"Loading and sorting fonts..."_s);
     splash.Say(u"Preparing user interface..."_s);
     ShowFtpCommand();
@@ -98,7 +97,6 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
     splash.Say(u"Loading taglist..."_s);
     splash.Say(u"Loading TidyTools presets..."_s);
     splash.Say(u"Loading styles..."_s);
-    m_designBar->FillBlockStyles();
     splash.Say(u"Finished!"_s);
     OpenAtStart(splash, commandLine);
     splash.Say(u"Loading tips..."_s);
@@ -227,6 +225,7 @@ void frmMain::showEvent(QShowEvent *event)
     QMainWindow::showEvent(event);
     ForActive([](frmDocument &document) { document.ShowTitle(); });
     QTimer::singleShot(0, this, [this] {
+        m_toolbox->ShowPanes();
         if (std::exchange(m_openWhenShown, false))
             OpenDoc();
         if (std::exchange(m_tipWhenShown, false))

@@ -68,12 +68,17 @@ void frmSplash::Build()
     setFixedSize(360, 240);
 }
 
+void frmSplash::showEvent(QShowEvent *event)
+{
+    if (!m_status)
+        Build();
+    QWidget::showEvent(event);
+}
+
 void frmSplash::Say(const QString &text)
 {
-    if (!m_status && m_sinceStart.hasExpired(WorthAPicture)) {
-        Build();
+    if (!isVisible() && m_sinceStart.hasExpired(WorthAPicture))
         show();
-    }
     setAccessibleDescription(text);
     if (!m_status)
         return;

@@ -18,6 +18,7 @@ public:
     void Say(const QString &text);
 
 private:
+    void showEvent(QShowEvent *event) override;
     void Build();
 
     QLabel *m_status = nullptr;

@@ -239,8 +239,12 @@ void CodeHighlight::SetFocus()
 
 void CodeHighlight::SetLanguage(int language)
 {
-    if (!m_tables.SetLanguage(language))
-        return;
+    if (m_tables.SetLanguage(language))
+        Recolour();
+}
+
+void CodeHighlight::Recolour()
+{
     TellLimitOnce(TextLength());
     m_colours.ColourAll(LargeFile());
     viewport()->update();

@@ -55,6 +55,8 @@ public:
     /// 0 none, 1 Basic, 2 Java, 3 HTML, 4 Tidy; a change colours the page anew.
     int Language() const { return m_tables.CurrentLanguage(); }
     void SetLanguage(int language);
+    /// Colours the whole page anew, after a change of colours or of the size limit.
+    void Recolour();
     void AddWord(const QString &word, WordClass wordClass);
     void AddCommentTag(const QString &start, const QString &end);
     /// The text as a coloured stream. A text above the size limit comes back as it is, after a

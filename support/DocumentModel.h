@@ -7,6 +7,7 @@
 namespace brenix {
 
 class BrowserView;
+class DesignView;
 class SourceView;
 
 /// One open document: a bag of named fields, and assigning certain of them is how commands are sent
@@ -46,9 +47,13 @@ public:
     virtual SourceView &rtfText() = 0;
     /// The preview; null while the web engine is not up or not there.
     virtual BrowserView *WebBrowser1() = 0;
+    /// The design view, made when it is first asked for; null where there is no web engine.
+    virtual DesignView *Design() = 0;
 
     /// Writes the source text to the preview copy now.
     virtual void WritePreview() = 0;
+    /// Writes the source text to the design view's input and shows it there; false when that failed.
+    virtual bool LoadDesign() = 0;
     /// Shows the preview copy after `milliseconds`, unless armed anew before.
     virtual void ArmRefresher(int milliseconds) = 0;
     /// Places the views for `Status` and `SplitHV`.

@@ -111,8 +111,6 @@ TEST_F(StartUp, StoresAndFills)
         QString last;
     };
     const Box boxesExpected[] = {{u"Filter"_s, 15, u"All HTML"_s, u"Web TV"_s},
-                                 {u"cobSize"_s, 7, u"1"_s, u"7"_s},
-                                 {u"cobFormat"_s, 16, u"Normal"_s, u"Paragraph"_s},
                                  {u"Combo1"_s, 9, u"Fit Screen"_s, u"1280x1024"_s}};
     for (const Box &expected : boxesExpected) {
         const auto &box = Find<QComboBox>(expected.name);

@@ -3,6 +3,7 @@
 #include "support/SettingsStore.h"
 #include "tests/support/FreshHome.h"
 #include "tests/support/MemoryDocument.h"
+#include "tests/support/ScriptedBoxes.h"
 
 using namespace brenix;
 using namespace Qt::StringLiterals;
@@ -97,6 +98,67 @@ TEST(ViewSwitchRuns, CaretComesBackFromTheDesignView)
     RunViewSwitch(document, document.bars);
     EXPECT_EQ(document.source.SelStart(), 4);
 }
+
+struct DesignCase
+{
+    const char *row;
+    QString source;
+    QString to; // the view that is chosen in the design view; empty to stay
+    std::optional<QString> designed; // what the design view gives back
+    QString text; // of the source afterwards
+    QString status;
+    QString des;
+    int asked = 0;
+};
+
+class DesignSwitch : public testing::TestWithParam<DesignCase>
+{
+};
+
+// The text moves into the design view and back, and is lost nowhere.
+TEST_P(DesignSwitch, MovesTheText)
+{
+    const DesignCase &row = GetParam();
+    const FreshHome home;
+    ScriptedBoxes boxes;
+    boxes.answer = Answer::No;
+    MemoryDocument document;
+    document.Caption = u"/x/page.html"_s;
+    document.Load = u"0"_s;
+    document.source.SetText(row.source);
+    document.designLoads = row.source != u"unloadable";
+    document.Status.OnAssign([&](const QString &) { RunViewSwitch(document, document.bars); });
+
+    document.Status = u"Design"_s;
+    if (!row.to.isEmpty()) {
+        document.design.html = row.designed;
+        document.Status = row.to;
+    }
+    EXPECT_EQ(document.source.Text(), row.text);
+    EXPECT_EQ(document.Status(), row.status);
+    EXPECT_EQ(document.Des(), row.des);
+    EXPECT_EQ(boxes.asked.size(), row.asked);
+}
+
+const QString Marks
+    = u"<META content=\"MSHTML 6\" name=X><META NAME=\"GENERATOR\" Content=\"Microsoft DHTML Editing Control\">"_s;
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways,
+    DesignSwitch,
+    testing::Values(
+        DesignCase{"Stays", u"<p>"_s, {}, {}, u"<p>"_s, u"Design"_s, u"1"_s},
+        DesignCase{"Again", u"<p>"_s, u"Design"_s, u"<b>"_s, u"<p>"_s, u"Design"_s, u"1"_s},
+        DesignCase{"BackToHtml", u"<p>"_s, u"HTML"_s, u"<b>"_s, u"<b>"_s, u"HTML"_s, u"0"_s},
+        DesignCase{
+            "BackCleaned", u"<p>"_s, u"Split"_s, u"<i>"_s + Marks, u"<i>"_s, u"Split"_s, u"0"_s},
+        DesignCase{
+            "ToPreviewUncleaned", u"<p>"_s, u"Preview"_s, Marks, Marks, u"Preview"_s, u"0"_s},
+        DesignCase{"NoAnswer", u"<p>"_s, u"HTML"_s, {}, u"<p>"_s, u"HTML"_s, u"0"_s, 1},
+        DesignCase{"Frames", u"<FrameSet>"_s, {}, {}, u"<FrameSet>"_s, u"Split"_s, {}, 1},
+        DesignCase{"FloatingFrame", u"<iframe>"_s, {}, {}, u"<iframe>"_s, u"Design"_s, u"1"_s},
+        DesignCase{"NotLoaded", u"unloadable"_s, {}, {}, u"unloadable"_s, u"Split"_s, {}, 1}),
+    [](const auto &info) { return std::string(info.param.row); });
 
 TEST(ServerAddress, IsHostAndFileName)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/BrowserView.h"
+#include "support/DesignView.h"
 #include "support/DocumentModel.h"
 #include "support/SourceView.h"
 
@@ -130,6 +131,30 @@ private:
     QStringList &m_log;
 };
 
+/// A design view that holds what it was loaded with, or what a test puts in its place.
+class MemoryDesign : public brenix::DesignView
+{
+public:
+    QWidget *Widget() override { return nullptr; }
+    bool LoadDocument(const QString &) override { return true; }
+    bool SaveDocument(const QString &) override { return true; }
+    std::optional<QString> DocumentHTML() override { return html; }
+    bool IsDirty() override { return dirty; }
+    void Refresh() override { }
+    QString DocumentTitle() override { return {}; }
+    void PasteHTML(const QString &markup) override { html = markup; }
+    QString ExecCommand(int, const QString &) override { return {}; }
+    int QueryStatus(int) override { return brenix::Decmdf::Enabled; }
+    bool ShowBorders() const override { return false; }
+    void SetShowBorders(bool) override { }
+    bool ShowDetails() const override { return false; }
+    void SetShowDetails(bool) override { }
+    void SetFocus() override { }
+
+    std::optional<QString> html; ///< nothing: the page does not answer
+    bool dirty = false;
+};
+
 class MemoryBars : public brenix::MainWindowBars
 {
 public:
@@ -168,7 +193,14 @@ public:
 
     MemorySource &rtfText() override { return source; }
     MemoryBrowser *WebBrowser1() override { return hasBrowser ? &browser : nullptr; }
+    brenix::DesignView *Design() override { return &design; }
     void WritePreview() override { log.append(QStringLiteral("write")); }
+    bool LoadDesign() override
+    {
+        log.append(QStringLiteral("load"));
+        design.html = source.Text();
+        return designLoads;
+    }
     void ArmRefresher(int milliseconds) override
     {
         log.append(QStringLiteral("arm %1").arg(milliseconds));
@@ -180,5 +212,7 @@ public:
     MemorySource source;
     MemoryBrowser browser{log};
     MemoryBars bars{log};
+    MemoryDesign design;
     bool hasBrowser = true;
+    bool designLoads = true;
 };

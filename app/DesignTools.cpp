@@ -1,0 +1,109 @@
+#include "app/DesignTools.h"
+
+#include "app/SkinIcons.h"
+#include "support/DesignView.h"
+#include "support/MessageBoxes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    struct ToolButton
+    {
+        const char16_t *icon; // empty for a separator
+        const char16_t *tip;
+        int command;
+    };
+    constexpr ToolButton ToolButtons[] = {
+        {u"Bold", u"Bold", Decmd::Bold},
+        {u"Italic", u"Italic", Decmd::Italic},
+        {u"Underline", u"Underline", Decmd::Underline},
+        {u"", u"", 0},
+        {u"Left", u"Align left", Decmd::JustifyLeft},
+        {u"Center", u"Center", Decmd::JustifyCenter},
+        {u"Right", u"Align right", Decmd::JustifyRight},
+        {u"", u"", 0},
+        {u"list", u"Bulleted list", Decmd::UnorderList},
+        {u"numberlist", u"Numbered list", Decmd::OrderList},
+        {u"outdent", u"Outdent", Decmd::Outdent},
+        {u"indent", u"Indent", Decmd::Indent},
+        {u"", u"", 0},
+        {u"Fontremove", u"Remove format", Decmd::RemoveFormat},
+    };
+
+} // namespace
+
+DesignTools::DesignTools(QWidget *parent)
+    : QToolBar(u"Design tools"_s, parent)
+{
+    setObjectName(u"Picture3"_s);
+    setMovable(false);
+    for (const ToolButton &button : ToolButtons) {
+        if (*button.icon == u'\0') {
+            addSeparator();
+            continue;
+        }
+        QAction *action = addAction(SkinIcon(button.icon), QString::fromUtf16(button.tip));
+        const int command = button.command;
+        action->setCheckable(command != Decmd::Outdent && command != Decmd::Indent
+                             && command != Decmd::RemoveFormat);
+        m_commands.insert(command, action);
+        connect(action, &QAction::triggered, this, [this, command] {
+            if (m_view)
+                m_view->ExecCommand(command);
+        });
+    }
+    connect(addAction(SkinIcon(u"Color"), u"Text color"_s),
+            &QAction::triggered,
+            this,
+            &DesignTools::ChooseTextColour);
+    addSeparator();
+    AddView(
+        u"Tableborder", u"Show borders"_s, &DesignView::ShowBorders, &DesignView::SetShowBorders);
+    AddView(u"Detail", u"Show details"_s, &DesignView::ShowDetails, &DesignView::SetShowDetails);
+}
+
+void DesignTools::AddView(const char16_t *icon,
+                          const QString &tip,
+                          bool (DesignView::*shown)() const,
+                          void (DesignView::*show)(bool))
+{
+    QAction *action = addAction(SkinIcon(icon), tip);
+    action->setCheckable(true);
+    m_shows.insert(action, shown);
+    connect(action, &QAction::triggered, this, [this, show](bool on) {
+        if (m_view)
+            (m_view->*show)(on);
+    });
+}
+
+void DesignTools::ChooseTextColour()
+{
+    const std::optional<quint32> colour = m_view ? ChooseColour(0) : std::nullopt;
+    if (!colour)
+        return;
+    // Blue stands in the high byte.
+    const QColor chosen(int(*colour & 0xFF), int(*colour >> 8 & 0xFF), int(*colour >> 16 & 0xFF));
+    m_view->ExecCommand(Decmd::SetForeColor, chosen.name());
+}
+
+void DesignTools::SetView(DesignView *view)
+{
+    m_view = view;
+    setEnabled(view != nullptr);
+    Follow();
+}
+
+void DesignTools::Follow()
+{
+    if (!m_view)
+        return;
+    for (auto command = m_commands.begin(); command != m_commands.end(); ++command)
+        command.value()->setChecked(m_view->QueryStatus(command.key()) == Decmdf::Latched);
+    for (auto show = m_shows.begin(); show != m_shows.end(); ++show)
+        show.key()->setChecked((m_view->*show.value())());
+}
+
+} // namespace brenix
