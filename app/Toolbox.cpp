@@ -35,8 +35,10 @@ Toolbox::Toolbox(QWidget *parent)
     layout->setSpacing(0);
     layout->addLayout(titleBar);
     layout->addWidget(m_panes, 1);
+    QSizePolicy policy = m_panes->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_panes->setSizePolicy(policy);
     m_panes->hide();
-    layout->addStretch();
 }
 
 void Toolbox::ShowPanes()
