@@ -13,6 +13,7 @@ namespace brenix {
 namespace {
     constexpr int BlinkTime = 600; // ms
     constexpr int FirstRecentRow = 3;
+    constexpr int FirstKindRow = 2; // the wizards above have nothing to run yet
 } // namespace
 
 NewDocumentPane::NewDocumentPane(QWidget *parent)
@@ -24,8 +25,14 @@ NewDocumentPane::NewDocumentPane(QWidget *parent)
     m_kinds = AddList(u"List2"_s, u"&New"_s, 2);
     m_openList = AddList(u"List1"_s, u"O&pen"_s, 3);
     m_templates = AddList(u"List3"_s, u"Te&mplates"_s, 3);
-    m_kinds->addItems(
-        {u"HTML Document"_s, u"Simple HTML Document"_s, u"Empty Document"_s, u"XHTML Document"_s});
+    m_kinds->addItems({u"New Page Wizard"_s,
+                       u"New Site Wizard"_s,
+                       u"HTML Document"_s,
+                       u"Simple HTML Document"_s,
+                       u"Empty Document"_s,
+                       u"XHTML Document"_s});
+    for (int wizard = 0; wizard < FirstKindRow; ++wizard)
+        m_kinds->item(wizard)->setFlags(Qt::NoItemFlags);
 
     connect(m_kinds, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
         emit KindChosen(item->text());
@@ -113,7 +120,7 @@ void NewDocumentPane::PointTo(QListWidget *list)
     list->setPalette(contrast);
     list->setFocus();
     if (!list->currentItem())
-        list->setCurrentRow(0);
+        list->setCurrentRow(list == m_kinds ? FirstKindRow : 0);
     m_blink.start();
 }
 

@@ -7,6 +7,7 @@
 #include "app/SkinIcons.h"
 #include "app/Toolbox.h"
 #include "app/frmDocument.h"
+#include "app/frmEncoding.h"
 #include "editor/CodeHighlight.h"
 #include "support/BrowserView.h"
 #include "support/DesignView.h"
@@ -23,6 +24,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolBar>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -224,6 +226,13 @@ void frmMain::BuildStatusBars()
     m_linePanel = addPanel(m_sourceBar, u"Panel1"_s, 0);
     m_characterPanel = addPanel(m_sourceBar, u"Panel2"_s, 0);
     m_modifiedPanel = addPanel(m_sourceBar, u"Panel3"_s, 1);
+    m_encodingPanel = new QToolButton(m_sourceBar);
+    m_encodingPanel->setObjectName(u"Encoding"_s);
+    m_encodingPanel->setAutoRaise(true);
+    m_encodingPanel->setToolTip(
+        u"Encoding of this page. A click chooses that of pages that do not tell theirs."_s);
+    m_sourceBar->layout()->addWidget(m_encodingPanel);
+    connect(m_encodingPanel, &QToolButton::clicked, this, [this] { frmEncoding(this).exec(); });
     m_previewBar = addBar(u"SB2"_s);
     m_previewText = addPanel(m_previewBar, u"Panel1"_s, 1);
     m_previewBar->hide();

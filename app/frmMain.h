@@ -14,6 +14,7 @@ class QMimeData;
 class QSplitter;
 class QTabBar;
 class QToolBar;
+class QToolButton;
 
 namespace brenix {
 
@@ -143,6 +144,7 @@ private:
     QLabel *m_linePanel = nullptr;
     QLabel *m_characterPanel = nullptr;
     QLabel *m_modifiedPanel = nullptr;
+    QToolButton *m_encodingPanel = nullptr;
     QLabel *m_previewText = nullptr;
     MainMenu::Commands m_commands;
     QHash<QString, QString> m_toolTips; // by menu name, from the language file

@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTabBar>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -205,14 +206,16 @@ void frmMain::OnWindowActivated(QMdiSubWindow *window)
 
 void frmMain::OnDocumentActivated()
 {
-    const frmDocument *document = ActiveForm();
+    frmDocument *document = ActiveForm();
     EnableDocumentCommands(document != nullptr);
     RebuildTabs();
     ShowCaret();
+    m_encodingPanel->setVisible(document != nullptr);
     if (!document) {
         ShowModified({});
         return;
     }
+    m_encodingPanel->setText(document->Source().EncodingName());
     ShowBarsFor(document->Status());
     m_menu->ActionOf(document->SplitHV() == u"1" ? u"mnuSplitV"_s : u"mnuSplitH"_s)
         ->setChecked(true);

@@ -80,6 +80,8 @@ public:
     /// Right margin in twips: 0 wraps at the window's edge, anything else does not wrap.
     double Margin() const { return m_margin; }
     void SetMargin(double twips);
+    /// What the page is written in, by the name of its codec.
+    QString EncodingName() const { return QString::fromLatin1(m_encoding.codec); }
     /// The encoding of files that do not tell theirs.
     void CharCode(const QString &code) { m_charCode = code.toLatin1(); }
 

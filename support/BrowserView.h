@@ -8,7 +8,8 @@ class QWidget;
 
 namespace brenix {
 
-/// The preview of a document (`WebBrowser1`) as the program uses it. Nothing here waits for the page.
+/// The preview of a document (`WebBrowser1`) as the program uses it. Nothing here waits for the
+/// page.
 class BrowserView
 {
 public:
@@ -17,9 +18,10 @@ public:
     /// The widget to lay out; it belongs to the parent that it was created with.
     virtual QWidget *Widget() = 0;
 
-    /// Shows an address: "file://" and a path with the platform's separators, taken literally (a "#", "%" or blank
-    /// in it is part of the name); "http://" or "https://"; a name without a scheme, as "http://"; "about:blank"; or
-    /// "about:" and a text, which is shown as the page. The same file again keeps the scroll position.
+    /// Shows an address: "file://" and a path with the platform's separators, taken literally (a
+    /// "#", "%" or blank in it is part of the name); "http://" or "https://"; a name without a
+    /// scheme, as "http://"; "about:blank"; or "about:" and a text, which is shown as the page. The
+    /// same file again keeps the scroll position.
     virtual void Navigate(const QString &address) = 0;
     virtual void Refresh() = 0;
     virtual void GoBack() = 0;

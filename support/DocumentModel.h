@@ -52,7 +52,8 @@ public:
 
     /// Writes the source text to the preview copy now.
     virtual void WritePreview() = 0;
-    /// Writes the source text to the design view's input and shows it there; false when that failed.
+    /// Writes the source text to the design view's input and shows it there; false when that
+    /// failed.
     virtual bool LoadDesign() = 0;
     /// Shows the preview copy after `milliseconds`, unless armed anew before.
     virtual void ArmRefresher(int milliseconds) = 0;

@@ -6,8 +6,9 @@
 
 namespace brenix {
 
-/// A named field of a window whose assignment is an event: every handler runs on every assignment, also when the
-/// value stays the same, and before the assignment returns. Handlers run in the order in which they were added.
+/// A named field of a window whose assignment is an event: every handler runs on every assignment,
+/// also when the value stays the same, and before the assignment returns. Handlers run in the order
+/// in which they were added.
 template <typename Value> class Observable
 {
 public:
@@ -37,7 +38,7 @@ public:
     void OnAssign(Handler handler) { m_handlers.push_back(std::move(handler)); }
 
 private:
-    Value m_value {};
+    Value m_value{};
     std::vector<Handler> m_handlers;
 };
 

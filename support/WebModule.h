@@ -9,8 +9,8 @@ namespace brenix {
 class BrowserView;
 class DesignView;
 
-/// What the web engine module offers. The engine is a large library: it is loaded when the first page is shown, not
-/// when the program starts, so that the source can be edited at once.
+/// What the web engine module offers. The engine is a large library: it is loaded when the first
+/// page is shown, not when the program starts, so that the source can be edited at once.
 class WebModule
 {
 public:
@@ -19,8 +19,9 @@ public:
     virtual DesignView *CreateDesignView(QWidget *parent) = 0;
 };
 
-/// The module, loaded at the first call; null when it is not installed or cannot be loaded, and `WebModuleError`
-/// then says why. Looked for beside the program, then in the library directory of the installation.
+/// The module, loaded at the first call; null when it is not installed or cannot be loaded, and
+/// `WebModuleError` then says why. Looked for beside the program, then in the library directory of
+/// the installation.
 WebModule *LoadWebModule();
 QString WebModuleError();
 

@@ -17,7 +17,8 @@ void Require(bool holds)
 
 } // namespace
 
-// Any bytes at all as a page: they come back as they were, and every language colours them side by side.
+// Any bytes at all as a page: they come back as they were, and every language colours them side by
+// side.
 extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)
 {
     const QByteArray bytes(data, qsizetype(size));

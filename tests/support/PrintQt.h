@@ -4,7 +4,6 @@
 #include <QString>
 
 #include <gtest/gtest.h>
-
 #include <ostream>
 
 // Found by GoogleTest through argument-dependent lookup: without these a failure prints byte lists.
