@@ -191,8 +191,10 @@ MainMenu::MainMenu(QMenuBar *bar, const Commands &commands)
         QAction *action = caption == u"-" ? parent->addSeparator() : parent->addAction(caption);
         action->setObjectName(name);
         m_actions.insert(name, action);
-        action->setShortcut(QKeySequence(QString::fromUtf16(row.shortcut)));
-        action->setCheckable(row.kind != Kind::Command);
+        if (*row.shortcut != u'\0')
+            action->setShortcut(QKeySequence(QString::fromUtf16(row.shortcut)));
+        if (row.kind != Kind::Command)
+            action->setCheckable(true);
         if (row.kind == Kind::Choice)
             choices->addAction(action);
         if (const Command command = commands.value(name)) {

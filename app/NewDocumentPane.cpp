@@ -12,6 +12,7 @@ namespace brenix {
 
 namespace {
     constexpr int BlinkTime = 600; // ms
+    constexpr int ShortestList = 30; // pixels
     constexpr int FirstRecentRow = 3;
     constexpr int FirstKindRow = 2; // the wizards above have nothing to run yet
 } // namespace
@@ -63,6 +64,7 @@ QListWidget *NewDocumentPane::AddList(const QString &name, const QString &captio
     auto *label = new QLabel(caption, this);
     auto *list = new QListWidget(this);
     list->setObjectName(name);
+    list->setMinimumHeight(ShortestList);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setAccessibleName(QString(caption).remove(u'&'));
     label->setBuddy(list);

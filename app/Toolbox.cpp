@@ -1,9 +1,10 @@
 #include "app/Toolbox.h"
 
+#include "app/SkinIcons.h"
+
 #include <QBoxLayout>
 #include <QLabel>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -21,7 +22,7 @@ Toolbox::Toolbox(QWidget *parent)
     auto *close = new QToolButton(this);
     close->setObjectName(u"Image2"_s);
     close->setAutoRaise(true);
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setIcon(ProgramIcon(u"Close"));
     close->setToolTip(u"Hide the ToolBox (F2)"_s);
     close->setAccessibleName(u"Close"_s);
     connect(close, &QToolButton::clicked, this, &Toolbox::CloseClicked);
@@ -35,15 +36,6 @@ Toolbox::Toolbox(QWidget *parent)
     layout->setSpacing(0);
     layout->addLayout(titleBar);
     layout->addWidget(m_panes, 1);
-    QSizePolicy policy = m_panes->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_panes->setSizePolicy(policy);
-    m_panes->hide();
-}
-
-void Toolbox::ShowPanes()
-{
-    m_panes->show();
 }
 
 void Toolbox::AddPane(QWidget *pane, const QString &title)

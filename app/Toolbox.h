@@ -22,9 +22,6 @@ public:
     /// Adds a pane under its object name and title; the first one is shown.
     void AddPane(QWidget *pane, const QString &title);
     void ShowPane(QWidget *pane);
-    /// Panes are not shown until this is called, so that the window can be there before they are
-    /// drawn.
-    void ShowPanes();
 
 signals:
     void CloseClicked();

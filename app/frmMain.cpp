@@ -15,6 +15,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -119,14 +120,24 @@ void frmMain::BuildCentre()
 void frmMain::BuildToolbox()
 {
     m_toolbox = new Toolbox(this);
-    m_newDocumentPane = new NewDocumentPane(m_toolbox);
-    m_toolbox->AddPane(m_newDocumentPane, u"New Document"_s);
     connect(m_toolbox, &Toolbox::CloseClicked, this, [this] { ShowToolbox(false); });
+}
+
+// Made when the window stands, or somebody asks for it before.
+NewDocumentPane &frmMain::NewDocuments()
+{
+    if (m_newDocumentPane)
+        return *m_newDocumentPane;
+    m_newDocumentPane = new NewDocumentPane(m_toolbox);
+    m_newDocumentPane->RebuildOpenList();
+    m_newDocumentPane->SetTemplates(QDir(AppPath(u"Templates")).entryList(QDir::Files, QDir::Name));
+    m_toolbox->AddPane(m_newDocumentPane, u"New Document"_s);
     connect(m_newDocumentPane, &NewDocumentPane::KindChosen, this, &frmMain::NewDocument);
     connect(m_newDocumentPane, &NewDocumentPane::OpenRowChosen, this, &frmMain::OpenListRow);
     connect(m_newDocumentPane, &NewDocumentPane::TemplateChosen, this, &frmMain::OpenTemplate);
     connect(
         m_newDocumentPane, &NewDocumentPane::TemplateDeletionAsked, this, &frmMain::DeleteTemplate);
+    return *m_newDocumentPane;
 }
 
 void frmMain::ShowToolbox(bool shown)

@@ -75,6 +75,7 @@ private:
     void BuildToolbars();
     void BuildStatusBars();
     void BuildToolbox();
+    NewDocumentPane &NewDocuments();
     MainMenu::Commands Commands();
     void AddFileCommands(MainMenu::Commands &commands);
     void AddEditCommands(MainMenu::Commands &commands);

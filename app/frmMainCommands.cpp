@@ -72,7 +72,7 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
                             "file menu, the toolbox will be opened and the 'New document' layer "
                             "will be visible. From "
                             "this box you can make a new document (from the lists)."_s);
-        m_newDocumentPane->PointToKinds();
+        NewDocuments().PointToKinds();
     };
     commands[u"mnuFileOpen"_s] = [this] {
         ShowNewDocumentPane(u"Brenix 2 does not open documents the standard way. If you click on "
@@ -80,7 +80,7 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
                             "menu, the toolbox will be opened and the 'New document' layer will be "
                             "visible. From this "
                             "box you can open documents (from the lists)."_s);
-        m_newDocumentPane->PointToOpenList();
+        NewDocuments().PointToOpenList();
     };
     commands[u"mnuFileClose"_s] = [this] {
         if (QMdiSubWindow *window = m_area->currentSubWindow())
@@ -231,7 +231,7 @@ void frmMain::ShowOptions()
         ForActive([](frmDocument &document) { document.Form_Activate(); });
         FillBrowserMenu();
     };
-    dialog.RecentCleared = [this] { m_newDocumentPane->RebuildOpenList(); };
+    dialog.RecentCleared = [this] { NewDocuments().RebuildOpenList(); };
     dialog.exec();
 }
 
@@ -288,7 +288,7 @@ void frmMain::ArrangeIcons()
 void frmMain::ShowNewDocumentPane(const QString &notice)
 {
     ShowToolbox(true);
-    m_toolbox->ShowPane(m_newDocumentPane);
+    m_toolbox->ShowPane(&NewDocuments());
     if (GetNumberSetting(u"ShowOnlyOnce", u"Open", 0) != 0)
         return;
     SaveSetting(u"ShowOnlyOnce", u"Open", u"1"_s);

@@ -96,7 +96,8 @@ void frmMain::OpenPath(const QString &path)
     document->Modyfied = u"0"_s;
     document->rtfText().AddUndo();
     AddRecentFile(path);
-    m_newDocumentPane->RebuildOpenList();
+    if (m_newDocumentPane)
+        m_newDocumentPane->RebuildOpenList();
 }
 
 // The page takes the way through a file in the exchange directory; where that cannot be written
@@ -158,7 +159,7 @@ void frmMain::DeleteTemplate(const QString &name)
     const Answer answer = MsgBox(
         u"Do you want to delete the template '"_s + name + u"'?"_s, Buttons::YesNo, Icon::Question);
     if (answer == Answer::Yes && QFile::remove(AppPath(QString(u"Templates/"_s + name))))
-        m_newDocumentPane->RemoveTemplate(name);
+        NewDocuments().RemoveTemplate(name);
 }
 
 void frmMain::SaveAsTemplate()
@@ -179,7 +180,7 @@ void frmMain::SaveAsTemplate()
         return;
     }
     if (document->rtfText().SaveFile(AppPath(QString(u"Templates/"_s + name))))
-        m_newDocumentPane->AddTemplate(name);
+        NewDocuments().AddTemplate(name);
 }
 
 void frmMain::OpenDropped(const QMimeData &data)

@@ -32,8 +32,8 @@ namespace {
 
     constexpr int TwipsPerPixel = 15;
     constexpr int MaximisedState = 2;
-    constexpr int SmallestWindow
-        = 200; // pixels, so that a damaged setting leaves something to grasp
+    // So that a damaged setting leaves something to grasp, with the toolbox in it.
+    constexpr QSize SmallestWindow(340, 300);
     constexpr int DefaultLargeFile = 20000;
 
     // clang-format off
@@ -82,10 +82,9 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
     if (!GetSetting(u"Settings", u"TemporaryDirectory").isEmpty())
         splash.Say(u"Setting temporary directory to "_s + TempDir());
     ReadLargeFile();
+    // The New Document pane reads both when it is made.
     splash.Say(u"Loading recentfiles list..."_s);
-    m_newDocumentPane->RebuildOpenList();
     splash.Say(u"Getting Templates information..."_s);
-    m_newDocumentPane->SetTemplates(QDir(AppPath(u"Templates")).entryList(QDir::Files, QDir::Name));
     splash.Say(u"Loading browserlist..."_s);
     FillBrowserMenu();
     // The design bar, which holds sizes, fonts and styles, fills its lists when the first page is
@@ -159,7 +158,7 @@ void frmMain::RestoreWindow()
     const QScreen *screen = QGuiApplication::screenAt(place.center());
     const QRect whole = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
     place.setSize(place.size()
-                      .expandedTo({SmallestWindow, SmallestWindow})
+                      .expandedTo(SmallestWindow)
                       .expandedTo(minimumSizeHint())
                       .boundedTo(whole.size()));
     place.moveLeft(std::clamp(place.left(), whole.left(), whole.right() + 1 - place.width()));
@@ -225,7 +224,7 @@ void frmMain::showEvent(QShowEvent *event)
     QMainWindow::showEvent(event);
     ForActive([](frmDocument &document) { document.ShowTitle(); });
     QTimer::singleShot(0, this, [this] {
-        m_toolbox->ShowPanes();
+        NewDocuments();
         if (std::exchange(m_openWhenShown, false))
             OpenDoc();
         if (std::exchange(m_tipWhenShown, false))

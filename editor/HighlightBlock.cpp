@@ -17,6 +17,25 @@ namespace {
 
     constexpr qsizetype ColourTableRoom = 200;
 
+    // What the delimiters are written as, in their order.
+    constexpr QStringView DelimiterStream[] = {
+        u" ",
+        u"\\par \r\n",
+        u"\\tab ",
+        u"\\cf2 (\\cf0 ",
+        u"\\cf2 )\\cf0 ",
+        u"\\cf2 =\\cf0 ",
+        u"\\cf2 +\\cf0 ",
+        u"\\cf2 -\\cf0 ",
+        u"\\cf2 *\\cf0 ",
+        u"\\cf2 >\\cf0 ",
+        u"\\cf2 <\\cf0 ",
+        u"\\cf2 \\\\\\cf0 ",
+        u"\\cf2 /\\cf0 ",
+        u"\\cf2 \\{\\cf0 ",
+        u"\\cf2 \\}\\cf0 ",
+    };
+
     struct Affix
     {
         QStringView prefix;
@@ -53,15 +72,13 @@ namespace {
         explicit StreamBuffer(qsizetype expected)
             : m_text(expected, Qt::Uninitialized)
             , m_end(m_text.data())
+            , m_limit(m_end + expected)
         {
         }
         void MakeRoomFor(qsizetype length)
         {
-            const qsizetype used = m_end - m_text.constData();
-            if (used + length <= m_text.size())
-                return;
-            m_text.resize((used + length) * 3 / 2);
-            m_end = m_text.data() + used;
+            if (m_limit - m_end < length)
+                Grow(length);
         }
         void Add(QStringView part)
         {
@@ -90,8 +107,17 @@ namespace {
         }
 
     private:
+        void Grow(qsizetype length)
+        {
+            const qsizetype used = m_end - m_text.constData();
+            m_text.resize((used + length) * 3 / 2);
+            m_end = m_text.data() + used;
+            m_limit = m_text.data() + m_text.size();
+        }
+
         QString m_text;
         QChar *m_end;
+        QChar *m_limit;
     };
 
     class StreamSink
@@ -127,28 +153,8 @@ namespace {
 
         void Delimiter(qsizetype, int index)
         {
-            const QStringView delimiter = SyntaxTables::DelimiterAt(index);
             m_out.MakeRoomFor(LongestControls);
-            switch (delimiter.front().unicode()) {
-            case u' ':
-                m_out.AddShort(delimiter);
-                return;
-            case u'\r':
-                m_out.Add(u"\\par \r\n");
-                return;
-            case u'\t':
-                m_out.Add(u"\\tab ");
-                return;
-            case u'\\':
-            case u'{':
-            case u'}':
-                m_out.Add(u"\\cf2 \\");
-                break;
-            default:
-                m_out.Add(u"\\cf2 ");
-            }
-            m_out.AddShort(delimiter);
-            m_out.Add(u"\\cf0 ");
+            m_out.AddShort(DelimiterStream[index]);
         }
 
         void Block(const ScannedBlock &block)

@@ -261,7 +261,7 @@ TEST_F(StartUp, WindowComesBack)
         {"off the right", {twips(3000), twips(2000), twips(400), twips(500)}, {400, 300, 400, 500}},
         {"off the left", {twips(-1000), twips(-9), twips(400), twips(500)}, {0, 0, 400, 500}},
         {"too large", {u"0"_s, u"0"_s, twips(5000), u"2147483647"_s}, {0, 0, 800, 800}},
-        {"too small", {u"0"_s, u"0"_s, u"0"_s, u"-2147483648"_s}, {0, 0, 200, 200}},
+        {"too small", {u"0"_s, u"0"_s, u"0"_s, u"-2147483648"_s}, {0, 0, 340, 300}},
     };
     ASSERT_EQ(QGuiApplication::primaryScreen()->availableGeometry(), QRect(0, 0, 800, 800));
     Set(u"Settings/WindowState", u"0");
