@@ -135,6 +135,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     QMimeData *createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
@@ -162,6 +163,7 @@ private:
     void OnScroll();
     void PlaceGutter();
     void TellLimitOnce(qsizetype length);
+    void TellLimit();
     bool IsDelimiterKey(int keyAscii) const;
     QByteArray EncodedFile(const PageEncoding &encoding,
                            Unencodable unencodable,
@@ -193,6 +195,7 @@ private:
     bool m_repaintEnabled = true;
     bool m_undoBusy = false;
     bool m_textChanged = false;
+    bool m_limitToTell = false;
     bool m_selChangeDue = false; // an edit moved the caret, and nobody was told
 };
 

@@ -48,6 +48,14 @@ void CodeHighlight::TellLimitOnce(qsizetype length)
         || GetSetting(u"Settings", u"Bigfile", u"True"_s) != u"True")
         return;
     SaveSetting(u"Settings", u"Bigfile", u"False"_s);
+    // A page that is opened at the start of the program waits for the window that it stands in.
+    m_limitToTell = window() != this && !window()->isVisible();
+    if (!m_limitToTell)
+        TellLimit();
+}
+
+void CodeHighlight::TellLimit()
+{
     MsgBox(u"This is very large! The syntax highlighter is to slow to color this document, so you "
            "have to live without colors. But.. the syntaxhighlighter will still color your code as "
            "you type. You can change how large a file shall be before Brenix turns off the "
@@ -55,6 +63,13 @@ void CodeHighlight::TellLimitOnce(qsizetype length)
            "the system registry."_s.arg(SettingsFile()),
            Buttons::Ok,
            Icon::Information);
+}
+
+void CodeHighlight::showEvent(QShowEvent *event)
+{
+    QPlainTextEdit::showEvent(event);
+    if (std::exchange(m_limitToTell, false))
+        QTimer::singleShot(0, this, &CodeHighlight::TellLimit);
 }
 
 void CodeHighlight::SetColours(const SyntaxColours &colours)
