@@ -60,23 +60,23 @@ DesignTools::DesignTools(QWidget *parent)
             this,
             &DesignTools::ChooseTextColour);
     addSeparator();
-    AddView(
-        u"Tableborder", u"Show borders"_s, &DesignView::ShowBorders, &DesignView::SetShowBorders);
-    AddView(u"Detail", u"Show details"_s, &DesignView::ShowDetails, &DesignView::SetShowDetails);
+    m_borders = AddView(
+        u"Tableborder", u"Show borders"_s, [this](bool on) { m_view->SetShowBorders(on); });
+    m_details
+        = AddView(u"Detail", u"Show details"_s, [this](bool on) { m_view->SetShowDetails(on); });
 }
 
-void DesignTools::AddView(const char16_t *icon,
-                          const QString &tip,
-                          bool (DesignView::*shown)() const,
-                          void (DesignView::*show)(bool))
+QAction *DesignTools::AddView(const char16_t *icon,
+                              const QString &tip,
+                              const std::function<void(bool)> &show)
 {
     QAction *action = addAction(SkinIcon(icon), tip);
     action->setCheckable(true);
-    m_shows.insert(action, shown);
     connect(action, &QAction::triggered, this, [this, show](bool on) {
         if (m_view)
-            (m_view->*show)(on);
+            show(on);
     });
+    return action;
 }
 
 void DesignTools::ChooseTextColour()
@@ -102,8 +102,8 @@ void DesignTools::Follow()
         return;
     for (auto command = m_commands.begin(); command != m_commands.end(); ++command)
         command.value()->setChecked(m_view->QueryStatus(command.key()) == Decmdf::Latched);
-    for (auto show = m_shows.begin(); show != m_shows.end(); ++show)
-        show.key()->setChecked((m_view->*show.value())());
+    m_borders->setChecked(m_view->ShowBorders());
+    m_details->setChecked(m_view->ShowDetails());
 }
 
 } // namespace brenix

@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QToolBar>
 
+#include <functional>
+
 namespace brenix {
 
 class DesignView;
@@ -22,15 +24,15 @@ public:
     void Follow();
 
 private:
-    void AddView(const char16_t *icon,
-                 const QString &tip,
-                 bool (DesignView::*shown)() const,
-                 void (DesignView::*show)(bool));
+    QAction *AddView(const char16_t *icon,
+                     const QString &tip,
+                     const std::function<void(bool)> &show);
     void ChooseTextColour();
 
     DesignView *m_view = nullptr;
     QHash<int, QAction *> m_commands;
-    QHash<QAction *, bool (DesignView::*)() const> m_shows;
+    QAction *m_borders;
+    QAction *m_details;
 };
 
 } // namespace brenix

@@ -188,7 +188,9 @@ MainMenu::MainMenu(QMenuBar *bar, const Commands &commands)
         }
         if (row.kind == Kind::Slot)
             continue;
-        QAction *action = caption == u"-" ? parent->addSeparator() : parent->addAction(caption);
+        // Complete before the menu gets it: a menu looks again at each change of an item.
+        auto *action = new QAction(caption == u"-" ? QString() : caption, parent);
+        action->setSeparator(caption == u"-");
         action->setObjectName(name);
         m_actions.insert(name, action);
         if (*row.shortcut != u'\0')
@@ -202,6 +204,7 @@ MainMenu::MainMenu(QMenuBar *bar, const Commands &commands)
             m_working.insert(name);
         }
         action->setEnabled(action->isSeparator() || m_working.contains(name));
+        parent->addAction(action);
     }
 }
 

@@ -41,9 +41,4 @@ bool TakeDesignText(DocumentModel &document, bool cleaned)
     return true;
 }
 
-QString DesignInputName(const QString &banen)
-{
-    return banen + u'_';
-}
-
 } // namespace brenix

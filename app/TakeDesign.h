@@ -9,7 +9,4 @@ namespace brenix {
 /// as it was.
 bool TakeDesignText(DocumentModel &document, bool cleaned);
 
-/// Path of the design view's input, beside the preview copy.
-QString DesignInputName(const QString &banen);
-
 } // namespace brenix

@@ -5,7 +5,6 @@
 #include "support/DesignView.h"
 #include "support/MessageBoxes.h"
 #include "support/Paths.h"
-#include "support/PreviewCopies.h"
 #include "support/SettingsStore.h"
 #include "support/SourceView.h"
 
@@ -26,6 +25,8 @@ namespace {
     const QString NoAnswer
         = u"The design view does not answer. The source is as it was before the design view was "
           "opened."_s;
+
+    const QString ReadOnly = u"This page can be read, but not changed."_s;
 
     void ShowServerPage(DocumentModel &document,
                         const MainWindowBars &bars,
@@ -48,6 +49,10 @@ namespace {
     // False when the author stays out of the design view, or it could not be shown.
     bool EnterDesign(DocumentModel &document)
     {
+        if (document.rtfText().IsReadOnlyPage()) {
+            MsgBox(ReadOnly, Buttons::Ok, Icon::Information);
+            return false;
+        }
         if (document.rtfText().Text().contains(u"<frame"_s, Qt::CaseInsensitive)
             && MsgBox(FrameWarning, Buttons::YesNo, Icon::Information) == Answer::No)
             return false;
@@ -68,7 +73,6 @@ namespace {
         if (!TakeDesignText(document, cleaned))
             MsgBox(NoAnswer, Buttons::Ok, Icon::Warning);
         document.Des = u"0"_s;
-        DropPreviewCopy(DesignInputName(document.Banen()));
         ShowPreviewCopy(document);
     }
 

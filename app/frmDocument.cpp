@@ -120,11 +120,13 @@ void frmDocument::SaveByItself()
         m_autoSave.stop();
         return;
     }
-    if (IsUntitled(Caption()) || Unread || Modyfied() != u"1" || m_source->NeedsOtherEncoding())
+    if (IsUntitled(Caption()) || Unread || Modyfied() != u"1" || m_autoSaveFailed)
         return;
-    if (std::exchange(m_autoSaveFailed, true))
+    if (HasDesignEdits() && !TakeDesignText(*this, true))
         return;
-    BringDesignToSource();
+    if (m_source->NeedsOtherEncoding())
+        return;
+    m_autoSaveFailed = true; // while a message stands
     m_autoSaveFailed = !m_source->SaveFile(Caption());
 }
 
@@ -187,7 +189,8 @@ void frmDocument::StartWith(const QString &text, int caret)
 // A file that could not be read is not written over by what the window shows in its place.
 bool frmDocument::Save()
 {
-    BringDesignToSource();
+    if (!BringDesignToSource())
+        return false;
     if (IsUntitled(Caption()) || (Unread && QFile::exists(Caption())))
         return SaveAs(u"Save"_s);
     if (!m_source->SaveFile(Caption()))
@@ -198,7 +201,8 @@ bool frmDocument::Save()
 
 bool frmDocument::SaveAs(const QString &title)
 {
-    BringDesignToSource();
+    if (!BringDesignToSource())
+        return false;
     const QString start = IsUntitled(Caption()) ? u"*.html"_s : Caption();
     const QString path = SaveFileName({.title = title,
                                        .filter = QString::fromUtf16(SaveFilter),
@@ -304,16 +308,25 @@ void frmDocument::OnRefresher()
     emit FilesChanged();
 }
 
-// Saving from the design view leaves the view as it is.
-void frmDocument::BringDesignToSource()
+// Saving leaves the design view as it is. False, after a message, when its text cannot be had: then
+// nothing is saved.
+bool frmDocument::BringDesignToSource()
 {
-    if (Status() == u"Design" && m_design && m_design->IsDirty())
-        TakeDesignText(*this, true);
+    if (!HasDesignEdits() || TakeDesignText(*this, true))
+        return true;
+    MsgBox(
+        u"The design view does not answer. Nothing has been saved."_s, Buttons::Ok, Icon::Warning);
+    return false;
+}
+
+bool frmDocument::HasDesignEdits()
+{
+    return m_design && Des() == u"1" && m_design->IsDirty();
 }
 
 bool frmDocument::AgreeToClose()
 {
-    if (m_design && Status() == u"Design" && m_design->IsDirty())
+    if (HasDesignEdits())
         Status = u"HTML"_s;
     // The question goes by the status bar, which shows the active document.
     Form_Activate();
@@ -329,7 +342,7 @@ void frmDocument::closeEvent(QCloseEvent *event)
     }
     for (QTimer *timer : {&m_refresher, &m_copyWriter, &m_autoSave, &m_previewStart})
         timer->stop();
-    DropPreviewCopy(DesignInputName(Banen()));
+    DropPreviewCopy(m_designInput);
     DropPreviewCopy(Banen());
     event->accept();
 }

@@ -90,7 +90,8 @@ private:
     void OnRefresher();
     void FollowCaption();
     void SaveByItself();
-    void BringDesignToSource();
+    bool BringDesignToSource();
+    bool HasDesignEdits();
     void NeedPreview();
     void CreatePreview();
     QRect ViewArea() const;
@@ -103,6 +104,7 @@ private:
     SplitBar *m_splitH;
     SplitBar *m_splitV;
     QToolBar *m_viewBar;
+    QString m_designInput; // the file that the design view was loaded from
     QTimer m_refresher;
     QTimer m_copyWriter;
     QTimer m_autoSave;

@@ -217,9 +217,11 @@ bool frmDocument::LoadDesign()
 {
     if (!Design() || Banen().isEmpty())
         return false;
-    const QString path = ClaimPreviewCopy(DesignInputName(Banen()));
+    DropPreviewCopy(m_designInput);
+    m_designInput = ClaimPreviewCopy(Banen() + u'_');
     m_design->CharCode = GetSetting(u"Editor", u"Encoding", u"windows-1250"_s).toLatin1();
-    return WritePreviewCopy(path, m_source->FileBytes()) && m_design->LoadDocument(path);
+    return WritePreviewCopy(m_designInput, m_source->FileBytes())
+        && m_design->LoadDocument(m_designInput);
 }
 
 void frmDocument::NeedPreview()

@@ -65,7 +65,6 @@ frmMain::frmMain()
     BuildCentre();
     BuildMenu();
     BuildStatusBars();
-    EnableDocumentCommands(false);
     setWindowTitle(u"Brenix"_s); // a maximised document adds its own name
 }
 

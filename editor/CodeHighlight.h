@@ -102,7 +102,7 @@ public:
     int TopLineAtMouseDown() const { return m_topLineAtMouseDown; }
     /// Whether the page holds bytes that could not be written back from its text, so that it can
     /// only be read.
-    bool IsReadOnlyPage() const { return !m_readOnlyBytes.isNull(); }
+    bool IsReadOnlyPage() const override { return !m_readOnlyBytes.isNull(); }
 
 signals:
     void SelChange();

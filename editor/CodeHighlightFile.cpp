@@ -3,6 +3,7 @@
 #include "editor/PageText.h"
 #include "support/AuthorFile.h"
 #include "support/MessageBoxes.h"
+#include "support/PreviewCopies.h"
 
 using namespace Qt::StringLiterals;
 
@@ -85,6 +86,7 @@ bool CodeHighlight::SaveFile(const QString &path)
     const QString error = WriteAuthorFile(path, bytes);
     if (error.isEmpty()) {
         m_encoding = encoding;
+        ForgetPreviewCopy(path);
         return true;
     }
     MsgBox(u"Can't save '"_s + path + u"'\n\n"_s + error, Buttons::Ok, Icon::Critical);

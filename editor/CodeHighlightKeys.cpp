@@ -250,6 +250,9 @@ void CodeHighlight::inputMethodEvent(QInputMethodEvent *event)
         m_timer2.start();
     }
     QPlainTextEdit::inputMethodEvent(event);
+    // The box has put the look of the composed text in the place of the line's colours.
+    if (event->preeditString().isEmpty())
+        m_colours.LayAgain(textCursor().block());
     if (!event->commitString().isEmpty())
         AfterEdit(Caret(), 0);
 }

@@ -133,6 +133,12 @@ void LineColours::ColourInContext(const QTextBlock &first, const QTextBlock &las
         SetState(block, {.known = true, .end = state});
         block = block.next();
     }
+    // A piece of the same line that follows begins in another state now.
+    BlockState behind = StateOf(block);
+    if (block.isValid() && behind.known) {
+        behind.edited = true;
+        SetState(block, behind);
+    }
 }
 
 bool LineColours::MakePlain(const QTextBlock &first, const QTextBlock &last)
@@ -140,7 +146,7 @@ bool LineColours::MakePlain(const QTextBlock &first, const QTextBlock &last)
     bool changed = false;
     for (QTextBlock block = first;; block = block.next()) {
         const BlockState state = StateOf(block);
-        if (!state.known || !state.plain) {
+        if (!state.known || !state.plain || state.edited) {
             SetState(block, {.known = true, .plain = true, .end = {}});
             changed = true;
         }
@@ -277,6 +283,15 @@ void LineColours::Lay(const QTextBlock &block)
     state.generation = m_generation;
     SetState(block, state);
     SetFormats(block, formats);
+}
+
+void LineColours::LayAgain(const QTextBlock &block)
+{
+    BlockState state = StateOf(block);
+    state.generation = 0;
+    if (state.known)
+        SetState(block, state);
+    Lay(block);
 }
 
 // 1 bit each for known, fresh, plain and edited, 8 for the rule, 4 for its paint, 15 for the

@@ -42,6 +42,8 @@ public:
 
     /// Makes the formats of a block if it has none yet.
     void Lay(const QTextBlock &block);
+    /// The same for a block whose formats somebody else has changed.
+    void LayAgain(const QTextBlock &block);
 
 private:
     struct BlockState

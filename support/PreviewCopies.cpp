@@ -105,4 +105,9 @@ void DropPreviewCopy(const QString &path)
     QFile::remove(EntryName(path));
 }
 
+void ForgetPreviewCopy(const QString &path)
+{
+    QFile::remove(EntryName(path));
+}
+
 } // namespace brenix

@@ -19,4 +19,7 @@ bool WritePreviewCopy(const QString &path, const QByteArray &bytes);
 /// Deletes a claimed copy and forgets it; does nothing for any other path.
 void DropPreviewCopy(const QString &path);
 
+/// Says that a path is the author's from now on: a page has been saved there.
+void ForgetPreviewCopy(const QString &path);
+
 } // namespace brenix

@@ -36,6 +36,9 @@ public:
     /// after a message, when nothing was written; the old file is then whole.
     virtual bool SaveFile(const QString &path) = 0;
 
+    /// Whether the page can only be read, since its bytes could not be written back from its text.
+    virtual bool IsReadOnlyPage() const { return false; }
+
     virtual void AddUndo() = 0;
     virtual void Undo() = 0;
     virtual void Redo() = 0;

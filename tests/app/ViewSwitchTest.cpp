@@ -126,6 +126,7 @@ TEST_P(DesignSwitch, MovesTheText)
     document.Caption = u"/x/page.html"_s;
     document.Load = u"0"_s;
     document.source.SetText(row.source);
+    document.source.isReadOnlyPage = row.source == u"readonly";
     document.designLoads = row.source != u"unloadable";
     document.Status.OnAssign([&](const QString &) { RunViewSwitch(document, document.bars); });
 
@@ -157,6 +158,7 @@ INSTANTIATE_TEST_SUITE_P(
         DesignCase{"NoAnswer", u"<p>"_s, u"HTML"_s, {}, u"<p>"_s, u"HTML"_s, u"0"_s, 1},
         DesignCase{"Frames", u"<FrameSet>"_s, {}, {}, u"<FrameSet>"_s, u"Split"_s, {}, 1},
         DesignCase{"FloatingFrame", u"<iframe>"_s, {}, {}, u"<iframe>"_s, u"Design"_s, u"1"_s},
+        DesignCase{"ReadOnly", u"readonly"_s, {}, {}, u"readonly"_s, u"Split"_s, {}, 1},
         DesignCase{"NotLoaded", u"unloadable"_s, {}, {}, u"unloadable"_s, u"Split"_s, {}, 1}),
     [](const auto &info) { return std::string(info.param.row); });
 

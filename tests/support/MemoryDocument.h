@@ -17,6 +17,9 @@
 class MemorySource : public brenix::SourceView
 {
 public:
+    bool IsReadOnlyPage() const override { return isReadOnlyPage; }
+    bool isReadOnlyPage = false;
+
     QString Text() const override { return m_text; }
     void SetText(const QString &text) override
     {

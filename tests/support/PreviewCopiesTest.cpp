@@ -91,3 +91,15 @@ TEST_F(PreviewCopies, NothingCanBeClaimedOrWrittenWithoutAName)
     EXPECT_FALSE(WritePreviewCopy({}, "preview"));
     EXPECT_FALSE(WritePreviewCopy(ClaimPreviewCopy(Path(u"no folder/a_.html"_s)), "preview"));
 }
+
+// The author may save a page under the very name of a copy, in the same tick of the clock.
+TEST_F(PreviewCopies, WhatTheAuthorHasSavedThereIsTheAuthorsFromThenOn)
+{
+    const QString path = ClaimPreviewCopy(Path(u"page_.html"_s));
+    ASSERT_TRUE(WritePreviewCopy(path, "the same"));
+    ForgetPreviewCopy(path);
+    DropPreviewCopy(path);
+    EXPECT_FALSE(WritePreviewCopy(path, "preview"));
+    EXPECT_EQ(Content(u"page_.html"_s), "the same");
+    EXPECT_EQ(ClaimPreviewCopy(path), Path(u"page__.html"_s));
+}
