@@ -1,8 +1,8 @@
 #include "support/DesignView.h"
 #include "support/PreviewCopies.h"
 #include "support/WebModule.h"
-#include "tests/support/Await.h"
 #include "tests/support/PrintQt.h"
+#include "tests/support/WaitFor.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -79,7 +79,7 @@ protected:
         m_engine->page()->runJavaScript(script,
                                         QWebEngineScript::ApplicationWorld,
                                         [answer](const QVariant &value) { *answer = value; });
-        EXPECT_TRUE(Await([&] { return answer->has_value(); })) << script.toStdString();
+        EXPECT_TRUE(WaitFor([&] { return answer->has_value(); })) << script.toStdString();
         return answer->value_or(QVariant());
     }
     // From the beginning of the first text to the end of the second; "|" alone: the caret behind
@@ -261,7 +261,7 @@ TEST_P(EditCommand, ChangesThePageAndIsTakenBack)
         EXPECT_EQ(Body(), row.result);
         EXPECT_EQ(m_design->QueryStatus(Decmd::Redo), Decmdf::Disabled);
     }
-    EXPECT_TRUE(Await([this] { return m_edits > 0; }));
+    EXPECT_TRUE(WaitFor([this] { return m_edits > 0; }));
 }
 
 constexpr int pasteHtml = 0;
@@ -341,7 +341,7 @@ TEST_F(WebDesign, StatusFollowsTheSelection)
     for (const Case &row : cases) {
         displays = 0;
         Select(row.text);
-        ASSERT_TRUE(Await([&] { return displays > 0 && m_tags.endsWith(row.tag); }))
+        ASSERT_TRUE(WaitFor([&] { return displays > 0 && m_tags.endsWith(row.tag); }))
             << row.tag.toStdString();
         EXPECT_EQ(m_design->ExecCommand(Decmd::GetBlockFmt), row.block);
         EXPECT_EQ(m_design->QueryStatus(Decmd::Bold), row.bold) << row.tag.toStdString();
@@ -365,10 +365,10 @@ TEST_F(WebDesign, KeysTypeAndAreTakenBackAsOneStep)
     Run(u"getSelection().collapseToEnd()"_s);
     for (const QString &letter : {u"x"_s, u"y"_s, u"z"_s})
         SendKey(letter[0].toUpper().unicode(), letter);
-    ASSERT_TRUE(Await([&] { return Body() == u"<p>axyz b</p>"_s; })) << Body().toStdString();
+    ASSERT_TRUE(WaitFor([&] { return Body() == u"<p>axyz b</p>"_s; })) << Body().toStdString();
     EXPECT_GT(m_edits, 0);
     SendKey(Qt::Key_Return, u"\r"_s);
-    ASSERT_TRUE(Await([&] { return Body() == u"<p>axyz</p><p>&nbsp;b</p>"_s; }))
+    ASSERT_TRUE(WaitFor([&] { return Body() == u"<p>axyz</p><p>&nbsp;b</p>"_s; }))
         << Body().toStdString();
     SendKey(Qt::Key_Z, u"\x1A"_s, Qt::ControlModifier);
     EXPECT_EQ(Body(), u"<p>axyz b</p>"_s);
@@ -382,13 +382,13 @@ TEST_F(WebDesign, FirstKeyGoesToTheBeginningOfThePage)
     QLineEdit edit;
     m_layout.addWidget(&edit);
     edit.setFocus();
-    ASSERT_TRUE(Await([&] { return edit.hasFocus(); }));
+    ASSERT_TRUE(WaitFor([&] { return edit.hasFocus(); }));
     ASSERT_TRUE(LoadBody(u"\n<!-- c -->\n<h1>a</h1><p>b</p>"_s));
-    EXPECT_TRUE(Await([&] { return Run(u"document.readyState"_s) == u"complete"_s; }));
+    EXPECT_TRUE(WaitFor([&] { return Run(u"document.readyState"_s) == u"complete"_s; }));
     EXPECT_TRUE(edit.hasFocus());
     m_design->SetFocus();
     SendKey(Qt::Key_X, u"x"_s);
-    EXPECT_TRUE(Await([&] { return Body() == u"\r\n<!-- c -->\r\n<h1>xa</h1><p>b</p>"_s; }))
+    EXPECT_TRUE(WaitFor([&] { return Body() == u"\r\n<!-- c -->\r\n<h1>xa</h1><p>b</p>"_s; }))
         << Body().toStdString();
 }
 
@@ -447,8 +447,8 @@ TEST_F(WebDesign, FilesOfTheFolderAreShownAndNoOthers)
               "<meta charset=windows-1250><title>\x9Atudy</title><link rel=stylesheet href=s.css>"
               "<link rel=stylesheet href='../outside.css'><p>x<b>y</b><img src='img/a b.png'>")));
     EXPECT_EQ(m_design->DocumentTitle(), u"študy"_s);
-    EXPECT_TRUE(Await([&] { return Run(u"document.images[0].naturalWidth"_s) == 7; }));
-    EXPECT_TRUE(Await([&] { return Run(u"document.readyState"_s) == u"complete"_s; }));
+    EXPECT_TRUE(WaitFor([&] { return Run(u"document.images[0].naturalWidth"_s) == 7; }));
+    EXPECT_TRUE(WaitFor([&] { return Run(u"document.readyState"_s) == u"complete"_s; }));
     const QString colour = u"getComputedStyle(document.querySelector('%1')).color"_s;
     EXPECT_EQ(Run(colour.arg(u"p"_s)), u"rgb(1, 2, 3)"_s);
     EXPECT_EQ(Run(colour.arg(u"b"_s)), u"rgb(1, 2, 3)"_s);
@@ -475,7 +475,7 @@ TEST_F(WebDesign, FileThatCannotBeReadShowsNothing)
     EXPECT_FALSE(m_design->LoadDocument(m_folder.filePath(u"missing.html_"_s)));
     EXPECT_EQ(m_design->DocumentHTML(), std::nullopt);
     EXPECT_FALSE(m_design->IsDirty());
-    EXPECT_TRUE(Await([&] {
+    EXPECT_TRUE(WaitFor([&] {
         return Run(u"document.documentElement.outerHTML"_s)
             == u"<html><head></head><body></body></html>"_s;
     }));
@@ -490,16 +490,16 @@ TEST_F(WebDesign, LinksAreNamedButNotFollowed)
         u"<meta http-equiv=refresh content='0;url=other.html'>"
         "<a style='position:fixed;left:0;top:0;font-size:60px' href='other.html#x'>link</a>"_s));
     const QUrl shown = m_engine->url();
-    EXPECT_TRUE(Await([&] {
+    EXPECT_TRUE(WaitFor([&] {
         SendMouse(QEvent::MouseMove, {40, 30});
         return !m_links.isEmpty();
     }));
     EXPECT_EQ(m_links.value(0), u"file://%1/other.html#x"_s.arg(m_folder.path()));
     SendMouse(QEvent::MouseButtonPress, {40, 30});
     SendMouse(QEvent::MouseButtonRelease, {40, 30});
-    EXPECT_TRUE(Await([&] { return m_tags.contains(u"A"_s); }));
+    EXPECT_TRUE(WaitFor([&] { return m_tags.contains(u"A"_s); }));
     SendMouse(QEvent::MouseMove, {300, 300});
-    EXPECT_TRUE(Await([&] { return m_links.size() == 2; }));
+    EXPECT_TRUE(WaitFor([&] { return m_links.size() == 2; }));
     EXPECT_EQ(m_links.last(), QString());
     EXPECT_EQ(m_engine->url(), shown);
     EXPECT_EQ(Run(u"document.querySelectorAll('a').length"_s).toInt(), 1);
@@ -532,7 +532,7 @@ TEST_F(WebDesign, ShortcutsOfTheProgramAreReached)
 {
     ASSERT_TRUE(LoadBody(u"<p>a</p>"_s));
     m_design->SetFocus();
-    ASSERT_TRUE(Await([&] { return m_engine->focusProxy()->hasFocus(); }));
+    ASSERT_TRUE(WaitFor([&] { return m_engine->focusProxy()->hasFocus(); }));
     const QKeySequence keys[] = {QKeySequence(u"Ctrl+S"_s),
                                  QKeySequence(u"Ctrl+B"_s),
                                  QKeySequence(u"Ctrl+C"_s),
@@ -559,10 +559,10 @@ TEST_F(WebDesign, DeadRendererLosesNothing)
     // the text is kept a moment after the edit
     const auto isKept = [&] { return Run(u"brenix.isKept === true"_s).toBool(); };
     Run(u"{ const page = brenix.page; brenix.page = () => { brenix.isKept = true; return page(); }; }"_s);
-    ASSERT_TRUE(Await(isKept));
+    ASSERT_TRUE(WaitFor(isKept));
     const auto pid = static_cast<pid_t>(m_engine->page()->renderProcessPid());
     ASSERT_EQ(kill(pid, SIGKILL), 0);
-    ASSERT_TRUE(Await([&] { return Body() == u"<p><% kept %></p>"_s; }));
+    ASSERT_TRUE(WaitFor([&] { return Body() == u"<p><% kept %></p>"_s; }));
     EXPECT_TRUE(m_design->IsDirty());
 }
 
@@ -587,7 +587,7 @@ TEST_F(SilentPage, IsWaitedForInVainButNotForEver)
     EXPECT_FALSE(m_design->IsDirty());
     EXPECT_EQ(m_design->ExecCommand(Decmd::Bold), QString());
     kill(m_pid, SIGCONT);
-    EXPECT_TRUE(Await([&] { return m_design->DocumentHTML().has_value(); }));
+    EXPECT_TRUE(WaitFor([&] { return m_design->DocumentHTML().has_value(); }));
 }
 
 TEST_F(SilentPage, ViewMayGoMeanwhile)

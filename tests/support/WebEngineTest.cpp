@@ -1,7 +1,7 @@
 #include "support/BrowserView.h"
 #include "support/WebModule.h"
-#include "tests/support/Await.h"
 #include "tests/support/PrintQt.h"
+#include "tests/support/WaitFor.h"
 
 #include <QApplication>
 #include <QDir>
@@ -86,7 +86,7 @@ protected:
     {
         m_completed.clear();
         m_view->Navigate(address);
-        EXPECT_TRUE(Await([this] { return !m_completed.isEmpty(); })) << address.toStdString();
+        EXPECT_TRUE(WaitFor([this] { return !m_completed.isEmpty(); })) << address.toStdString();
     }
     void ShowFile(const QString &path) { Show(u"file://"_s + path); }
 
@@ -95,7 +95,7 @@ protected:
         const auto answer = std::make_shared<std::optional<QVariant>>();
         m_engine->page()->runJavaScript(
             script, world, [answer](const QVariant &value) { *answer = value; });
-        EXPECT_TRUE(Await([&] { return answer->has_value(); })) << script.toStdString();
+        EXPECT_TRUE(WaitFor([&] { return answer->has_value(); })) << script.toStdString();
         return answer->value_or(QVariant());
     }
     QString Text() { return Run(u"document.body.innerText"_s).toString().trimmed(); }
@@ -121,7 +121,7 @@ TEST_F(WebEngine, SameFileShowsItsNewTextAtTheSamePlace)
     const QString path = Write(u"page.html"_s, TallPage(u"old"_s, 5000));
     ShowFile(path);
     Run(u"scrollTo(250, 2000)"_s);
-    ASSERT_TRUE(Await([&] { return m_engine->page()->scrollPosition().y() >= 2000; }));
+    ASSERT_TRUE(WaitFor([&] { return m_engine->page()->scrollPosition().y() >= 2000; }));
 
     Write(u"page.html"_s, TallPage(u"new"_s, 5000));
     ShowFile(path);
@@ -159,7 +159,7 @@ TEST_F(WebEngine, LastOfASeriesWins)
     const QString b = Write(u"b.html"_s, u"b"_s);
     for (const QString &path : {a, b, a, b})
         m_view->Navigate(u"file://"_s + path);
-    ASSERT_TRUE(Await([&] { return !m_completed.isEmpty(); }));
+    ASSERT_TRUE(WaitFor([&] { return !m_completed.isEmpty(); }));
     EXPECT_THAT(m_completed, ElementsAre(u"file://"_s + b));
 
     m_completed.clear();
@@ -167,7 +167,7 @@ TEST_F(WebEngine, LastOfASeriesWins)
         m_view->Navigate(u"file://"_s + Write(u"b.html"_s, text));
         QCoreApplication::processEvents();
     }
-    ASSERT_TRUE(Await([&] { return !m_completed.isEmpty(); }));
+    ASSERT_TRUE(WaitFor([&] { return !m_completed.isEmpty(); }));
     EXPECT_EQ(Text(), u"3"_s);
 }
 
@@ -189,9 +189,9 @@ TEST_P(LiteralName, IsShown)
     EXPECT_EQ(Text(), u"shown"_s);
     // Reached by a link the address is put together again from the engine's.
     m_view->Navigate(u"about:blank"_s);
-    ASSERT_TRUE(Await([&] { return m_completed.size() == 2; }));
+    ASSERT_TRUE(WaitFor([&] { return m_completed.size() == 2; }));
     m_view->GoBack();
-    ASSERT_TRUE(Await([&] { return m_completed.size() == 3; }));
+    ASSERT_TRUE(WaitFor([&] { return m_completed.size() == 3; }));
     EXPECT_EQ(m_completed.last(), u"file://"_s + path);
 }
 
@@ -287,7 +287,8 @@ TEST_F(WebEngine, WorkersOfALocalPageReadNothingOutside)
         } catch (error) {
             say('shared refused');
         }</script>)"_s));
-    EXPECT_TRUE(Await([&] { return Text().count(u"shared"_s) + Text().count(u"worker"_s) == 2; }));
+    EXPECT_TRUE(
+        WaitFor([&] { return Text().count(u"shared"_s) + Text().count(u"worker"_s) == 2; }));
     EXPECT_EQ(Text().count(u"refused"_s), 2);
 }
 
@@ -305,7 +306,7 @@ TEST_F(WebEngine, PageCannotReadWhereItIsAboutToGo)
             return request.responseText;
         }</script>)"_s));
     EXPECT_EQ(Run(u"go()"_s, QWebEngineScript::MainWorld).toString(), QString());
-    EXPECT_TRUE(Await([&] { return m_completed.size() == 2; }));
+    EXPECT_TRUE(WaitFor([&] { return m_completed.size() == 2; }));
     EXPECT_EQ(Text(), u"next"_s);
 }
 
@@ -336,9 +337,9 @@ TEST_F(WebEngine, PageOpensNoWindowAndSavesNoFile)
                          download = request;
                      });
     Run(u"document.querySelector('a').click()"_s, QWebEngineScript::MainWorld);
-    ASSERT_TRUE(Await([&] { return isAsked; }));
+    ASSERT_TRUE(WaitFor([&] { return isAsked; }));
     // one that is accepted lives on when it has ended
-    EXPECT_TRUE(Await([&] { return !download; }));
+    EXPECT_TRUE(WaitFor([&] { return !download; }));
 }
 
 TEST_F(WebEngine, MessageBoxesAreLimitedEvenWhenThePageLoadsItselfAgain)
@@ -349,7 +350,7 @@ TEST_F(WebEngine, MessageBoxesAreLimitedEvenWhenThePageLoadsItselfAgain)
         if (!location.search) location = '?again'; else document.body.append('end');
         </script>)"_s);
     m_view->Navigate(u"file://"_s + path);
-    ASSERT_TRUE(Await([&] { return !m_completed.isEmpty() && Text() == u"end"_s; }));
+    ASSERT_TRUE(WaitFor([&] { return !m_completed.isEmpty() && Text() == u"end"_s; }));
     EXPECT_EQ(boxes.Count(), 3);
 }
 
@@ -366,7 +367,7 @@ TEST_F(WebEngine, PageIsLeftWithoutAsking)
             type, point, target->mapToGlobal(point), Qt::LeftButton, Qt::LeftButton, {});
         QApplication::sendEvent(target, &event);
     }
-    ASSERT_TRUE(Await([&] { return m_engine->title() == u"clicked"_s; }));
+    ASSERT_TRUE(WaitFor([&] { return m_engine->title() == u"clicked"_s; }));
     const BoxCloser boxes;
     ShowFile(Write(u"other.html"_s, u"other"_s));
     EXPECT_EQ(Text(), u"other"_s);
@@ -377,7 +378,7 @@ TEST_F(WebEngine, PageDoesNotTakeTheFocus)
 {
     m_window.activateWindow();
     m_edit.setFocus();
-    ASSERT_TRUE(Await([&] { return m_edit.hasFocus(); }));
+    ASSERT_TRUE(WaitFor([&] { return m_edit.hasFocus(); }));
     const QString path = Write(u"page.html"_s, uR"(<input autofocus><script>
         window.focus(); document.querySelector('input').focus();</script>)"_s);
     ShowFile(path);
@@ -391,7 +392,7 @@ TEST_F(WebEngine, DeadRendererIsReplacedButNotForEver)
     for (const QString &text : {u"page"_s, u"page"_s, u"cannot be shown"_s}) {
         m_completed.clear();
         ASSERT_EQ(kill(static_cast<pid_t>(m_engine->page()->renderProcessPid()), SIGKILL), 0);
-        ASSERT_TRUE(Await([&] { return !m_completed.isEmpty(); }));
+        ASSERT_TRUE(WaitFor([&] { return !m_completed.isEmpty(); }));
         EXPECT_TRUE(Text().contains(text));
     }
     ShowFile(m_folder.filePath(u"page.html"_s));
@@ -407,7 +408,7 @@ TEST_F(WebEngine, PageThatNeverAnswersIsReplaced)
     Write(u"page.html"_s, u"mended"_s);
     ShowFile(path);
     EXPECT_EQ(Text(), u"mended"_s);
-    EXPECT_TRUE(Await([&] { return kill(stuck, 0) != 0; })) << "the old renderer still runs";
+    EXPECT_TRUE(WaitFor([&] { return kill(stuck, 0) != 0; })) << "the old renderer still runs";
 }
 
 TEST_F(WebEngine, WebPageRunsNoScriptsAndNothingIsFetchedOffline)
