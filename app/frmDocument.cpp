@@ -122,7 +122,7 @@ void frmDocument::SaveByItself()
     }
     if (IsUntitled(Caption()) || Unread || Modyfied() != u"1" || m_autoSaveFailed)
         return;
-    if (HasDesignEdits() && !TakeDesignText(*this, true))
+    if (HoldsDesignText() && !TakeDesignText(*this, m_design->IsDirty()))
         return;
     if (m_source->NeedsOtherEncoding())
         return;
@@ -305,29 +305,31 @@ void frmDocument::OnRefresher()
     KeyDone = false;
     WritePreview();
     m_browser->Navigate(Banen().isEmpty() ? u"about:blank"_s : u"file://"_s + Banen());
-    emit FilesChanged();
 }
 
 // Saving leaves the design view as it is. False, after a message, when its text cannot be had: then
 // nothing is saved.
 bool frmDocument::BringDesignToSource()
 {
-    if (!HasDesignEdits() || TakeDesignText(*this, true))
+    if (!HoldsDesignText() || TakeDesignText(*this, m_design->IsDirty()))
         return true;
     MsgBox(
         u"The design view does not answer. Nothing has been saved."_s, Buttons::Ok, Icon::Warning);
     return false;
 }
 
-bool frmDocument::HasDesignEdits()
+// Also when all edits were undone: the source may have been given them by a save in between.
+bool frmDocument::HoldsDesignText()
 {
-    return m_design && Des() == u"1" && m_design->IsDirty();
+    return m_design && Des() == u"1";
 }
 
 bool frmDocument::AgreeToClose()
 {
-    if (HasDesignEdits())
+    if (HoldsDesignText() && m_design->IsDirty())
         Status = u"HTML"_s;
+    else if (HoldsDesignText())
+        TakeDesignText(*this, false);
     // The question goes by the status bar, which shows the active document.
     Form_Activate();
     m_mayClose = MayClose(*this, m_bars, Caption());

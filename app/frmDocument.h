@@ -69,8 +69,6 @@ signals:
     /// The selection of the design view, or what it shows, has changed.
     void DesignChanged();
     void ActiveElement(const QString &tagName);
-    /// The page's directory is to be listed anew.
-    void FilesChanged();
     void ContextMenu(const QPoint &globalPosition);
 
 protected:
@@ -91,7 +89,7 @@ private:
     void FollowCaption();
     void SaveByItself();
     bool BringDesignToSource();
-    bool HasDesignEdits();
+    bool HoldsDesignText();
     void NeedPreview();
     void CreatePreview();
     QRect ViewArea() const;

@@ -206,7 +206,7 @@ DesignView *frmDocument::Design()
         m_design->Widget()->setToolTip(address.isEmpty() ? QString() : u"Link to : "_s + address);
     };
     m_design->Edited = [this] {
-        if (m_design->IsDirty() && Modyfied() != u"1")
+        if (Modyfied() != u"1")
             Modyfied = u"1"_s;
     };
     RunLayout();

@@ -213,6 +213,8 @@ void frmMain::OnDocumentActivated()
     ShowCaret();
     m_encodingPanel->setVisible(document != nullptr);
     if (!document) {
+        // The design bars act on a view that goes with its document.
+        ShowBarsFor({});
         ShowModified({});
         return;
     }
