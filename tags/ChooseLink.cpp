@@ -1,0 +1,27 @@
+#include "tags/ChooseLink.h"
+
+#include "support/DocumentModel.h"
+#include "support/UntitledPages.h"
+#include "tags/RelativePath.h"
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+QString LinkTo(const DocumentModel &page, const QString &path)
+{
+    if (IsUntitled(page.Caption()))
+        MsgBox(u"You should save your document before using this feature. Brenix cannot calculate "
+               "the relative path, and will insert the absolute path."_s,
+               Buttons::Ok,
+               Icon::Information);
+    return LinkAddress(page, path);
+}
+
+QString ChooseLink(const DocumentModel &page, const FileDialog &dialog)
+{
+    const QString path = OpenFileName(dialog);
+    return path.isEmpty() ? path : LinkTo(page, path);
+}
+
+} // namespace brenix

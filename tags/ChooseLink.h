@@ -1,0 +1,15 @@
+#pragma once
+
+#include "support/MessageBoxes.h"
+
+namespace brenix {
+
+class DocumentModel;
+
+/// What links and picture fields of a page hold for a file. For a page that was never saved it is
+/// the whole path, after a message that says so.
+QString LinkTo(const DocumentModel &page, const QString &path);
+/// Asks for a file; `LinkTo` it, or nothing when none was chosen.
+QString ChooseLink(const DocumentModel &page, const FileDialog &dialog);
+
+} // namespace brenix

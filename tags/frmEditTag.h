@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDialog>
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+class QTreeWidget;
+
+namespace brenix {
+
+class DocumentModel;
+
+/// The attributes of the selected start tag as a grid of names and values. OK writes the tag over
+/// the selection.
+class frmEditTag : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The page's selection is the tag.
+    explicit frmEditTag(DocumentModel &page, QWidget *parent = nullptr);
+
+    void accept() override;
+
+private:
+    void BuildGrid();
+    void BuildFields();
+    void BuildButtons();
+    void AddAttribute(const QString &name, const QString &value);
+    void NewAttribute();
+    void RemoveAttribute();
+    void ChooseFile();
+    void PickColour();
+    void ShowCurrent();
+    void SetCurrent(int column, const QString &text);
+
+    DocumentModel &m_page;
+    QString m_tagName; // TagName
+    QTreeWidget *m_grid; // LI
+    QComboBox *m_name; // Combo1
+    QLineEdit *m_value; // Text2
+};
+
+} // namespace brenix
