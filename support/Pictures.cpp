@@ -1,0 +1,73 @@
+#include "support/Pictures.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    constexpr qint64 LargestFile = 32 * 1024 * 1024;
+    constexpr qint64 LargestDrawing = 1024 * 1024; // SVG: drawn as a whole for any size
+    constexpr qint64 MostPixels = 32'000'000; // which is as much as the reader allocates
+    constexpr qint64 MostPreviewPixels = 8'000'000;
+    constexpr qint64 MostPreviewJpegPixels = 24'000'000; // scaled while it is decoded
+
+    // Sets the reader up; false for a file that is no picture or would take too long.
+    bool IsReadable(QImageReader &reader, qint64 mostPixels, qint64 mostJpegPixels)
+    {
+        reader.setDecideFormatFromContent(true);
+        reader.setAutoTransform(true);
+        const QByteArray format = reader.format();
+        const qint64 largest = format.startsWith("svg") ? LargestDrawing : LargestFile;
+        const qint64 most = format == "jpeg" ? mostJpegPixels : mostPixels;
+        if (QFileInfo(reader.fileName()).size() > largest)
+            return false; // asking for the size of a drawing reads all of it
+        const QSize size = reader.size();
+        return !size.isEmpty() && qint64(size.width()) * size.height() <= most;
+    }
+
+} // namespace
+
+QString PictureFile(const QString &folder, const QString &name)
+{
+    const QString resolved
+        = QUrl::fromPercentEncoding(name.toUtf8()).replace(u'\\', u'/').remove(QChar(u'\0'));
+    for (const QString &candidate : {name, resolved}) {
+        if (QFileInfo(folder + candidate).isFile())
+            return folder + candidate;
+    }
+    return {};
+}
+
+QImage ReadPreview(const QString &path, int side)
+{
+    QImageReader reader(path);
+    if (!IsReadable(reader, MostPreviewPixels, MostPreviewJpegPixels))
+        return {};
+    reader.setScaledSize(PreviewSize(reader.size(), side));
+    return reader.read();
+}
+
+QImage ReadPicture(const QString &path)
+{
+    QImageReader reader(path);
+    return IsReadable(reader, MostPixels, MostPixels) ? reader.read() : QImage();
+}
+
+QSize MeasurePicture(const QString &path)
+{
+    return ReadPicture(path).size();
+}
+
+QSize PreviewSize(const QSize &picture, int side)
+{
+    if (picture.width() <= side && picture.height() <= side)
+        return picture;
+    return picture.scaled(side, side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+} // namespace brenix

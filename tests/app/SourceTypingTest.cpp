@@ -1,0 +1,356 @@
+#include "editor/SourceTyping.h"
+
+#include "app/frmDocument.h"
+#include "editor/CodeHighlight.h"
+#include "support/SettingsStore.h"
+#include "tests/editor/EditorScript.h"
+#include "tests/support/FreshHome.h"
+#include "tests/support/Input.h"
+#include "tests/support/MemoryDocument.h"
+#include "tests/support/ScriptedBoxes.h"
+#include "tests/support/WaitFor.h"
+#include "tests/support/WithFolder.h"
+
+#include <QListWidget>
+#include <QScrollBar>
+
+using namespace brenix;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the keys do by the rules alone, with the end tag offered in its list or put in.
+class TypingRules
+{
+public:
+    explicit TypingRules(bool putsIn)
+        : m_putsIn(putsIn)
+    {
+    }
+
+    void Key(QChar key)
+    {
+        if (m_offers && (key == u' ' || key == u'\n')) {
+            m_offers = false;
+            if (!m_typed.isEmpty() && m_offered.startsWith(m_typed, Qt::CaseInsensitive))
+                return page.SetSelText(m_offered.mid(m_typed.size()));
+        }
+        if (key == u'\n')
+            return Enter();
+        if (key == u'>')
+            return EndTag();
+        m_typed += key;
+        page.SetSelText(key);
+    }
+
+    MemorySource page;
+
+private:
+    QString Match(const char16_t *pattern, int part) const
+    {
+        const QRegularExpression expression(QString::fromUtf16(pattern));
+        return expression.match(page.Text().left(page.SelStart())).captured(part);
+    }
+    void Enter()
+    {
+        const QString indent = Match(u"\r\n( *)[^\r\n]{0,199}$", 1);
+        const bool firstLine = !page.Text().left(page.SelStart()).contains(u'\n');
+        if (!firstLine && page.SelStart() == page.TextLength()) {
+            page.SetSelText(u" "_s);
+            page.SetSelStart(page.TextLength() - 1);
+        }
+        page.SetSelText(u"\r\n"_s + (firstLine ? QString() : indent));
+    }
+    void EndTag()
+    {
+        const QString tag = Match(u"<[^<>]{0,99}$", 0);
+        page.SetSelText(u">"_s);
+        m_offers = false;
+        const QRegularExpression none(
+            u"^(<[/\\\\!]|<param|<frame|<link|<input|<img|<hr|<base|<area|(?i:<(br|meta|li)$))"_s);
+        if (tag.isEmpty() || none.match(tag).hasMatch())
+            return;
+        const bool bare = tag.indexOf(u' ') < 0 || tag.indexOf(u' ') == tag.size() - 1;
+        m_offered = u"</"_s + (bare ? tag.mid(1) : tag.section(u' ', 0, 0).mid(1)) + u'>';
+        m_offers = !m_putsIn;
+        m_typed.clear();
+        if (m_putsIn
+            && !page.Text().mid(page.SelStart()).startsWith(m_offered, Qt::CaseInsensitive)) {
+            page.SetSelText(m_offered);
+            page.SetSelStart(page.SelStart() - int(m_offered.size()));
+        }
+    }
+
+    const bool m_putsIn;
+    bool m_offers = false;
+    QString m_offered;
+    QString m_typed;
+};
+
+const QString RealPage = uR"(<!DOCTYPE HTML>
+<html>
+  <head>
+    <meta name="keywords" content="one, two">
+    <title>A page & its "title"</title>
+    <style type="text/css">p > a { color: #FF0000; }</style>
+  </head>
+  <BODY bgcolor="#FFFFFF" onload="if (a < b && c > d) start();">
+    <!-- a comment -> not its end -->
+    <p align=center>Text, <b>bold < bolder</b> and <a href="x.html" title='y'>a link</a>.<br>
+    <img src="a.gif" alt="x > y"> &eacute; &lt; \ / <li>one <LI>two
+
+    <table border="0"><tr><td width=10>1</td></tr></table>
+    <></ ></x\>
+  </BODY>
+</html>
+)"_s;
+
+class Typing : public testing::Test, protected WithFolder
+{
+protected:
+    Typing()
+    {
+        Set({u"Auto/TagDuration=1"_s, u"Auto/AttributeDuration=1"_s, u"Settings/Value=1"_s});
+        document.resize(600, 400);
+        document.show();
+        Scripted().chooseColour = [](quint32) { return 0x332211; };
+    }
+
+    static void Set(const QStringList &settings)
+    {
+        for (const QString &setting : settings)
+            SaveSetting(setting.section(u'/', 0, 0),
+                        setting.section(u'/', 1).section(u'=', 0, 0),
+                        setting.section(u'=', 1));
+    }
+    QListWidget *Shown()
+    {
+        for (auto *list : document.findChildren<QListWidget *>()) {
+            if (list->isVisible())
+                return list;
+        }
+        return nullptr;
+    }
+    /// Keys as for `Type`, and "\u2026": wait until a list comes up.
+    void TypeKeys(const QString &keys)
+    {
+        const QStringList parts = keys.split(u'\u2026');
+        Type(source, parts.first());
+        for (const QString &part : parts.sliced(1)) {
+            EXPECT_TRUE(WaitFor([this] { return Shown(); })) << keys.toStdString();
+            Type(source, part);
+        }
+    }
+
+    /// A timer of 5 ms is due before this one.
+    static void LetSnapshotBeTaken()
+    {
+        bool due = false;
+        QTimer::singleShot(20, Qt::PreciseTimer, qApp, [&due] { due = true; });
+        ASSERT_TRUE(WaitFor([&due] { return due; }));
+    }
+
+private:
+    const FreshHome m_home;
+
+protected:
+    ScriptedBoxes boxes;
+    QStringList log;
+    MemoryBars bars{log};
+    frmDocument document{bars, folder.filePath(u"page.html"_s)};
+    CodeHighlight &source = document.Source();
+};
+
+TEST_F(Typing, TextBeforeKeysTextAfter)
+{
+    boxes.file = folder.filePath(u"pic.gif"_s);
+    const QStringList insertGT = {u"Auto/TagInsertGT=1"_s};
+    const QStringList putsIn = {u"Auto/ClosetagVersion=1"_s};
+    // clang-format off
+    const struct
+    {
+        const char *name;
+        QStringList settings;
+        QString before;
+        QString keys;
+        QString after;
+    } rows[] = {
+        {"tag", {}, u"|"_s, u"<\u2026im\u23CE"_s, u"<img|"_s},
+        {"tag in upper case", {}, u"|"_s, u"<\u2026IM "_s, u"<IMG|"_s},
+        {"blank behind a whole name", {}, u"|"_s, u"<\u2026p class"_s, u"<p class|"_s},
+        {"Enter behind a whole name", {}, u"|"_s, u"<\u2026p\u23CE"_s, u"<p|"_s},
+        {"no tag of that name", {}, u"|"_s, u"<\u2026q9\u23CE"_s, u"<q9\n|"_s},
+        {"a fast next key calls the list off", {}, u"|"_s, u"<b\u23CE"_s, u"<b\n|"_s},
+        {"tag with a character taken back", {}, u"|"_s, u"<\u2026bod\u232B\u23CE"_s, u"<bo|"_s},
+        {"tag taken back as a whole", {}, u"|"_s, u"<\u2026im\u232B\u23CE"_s, u"<i\n|"_s},
+        {"the word's end taken back", {}, u"|"_s, u"x<\u2026\u232B "_s, u"x |"_s},
+        {"arrow takes the list away", {}, u"|"_s, u"<\u2026\u2190\u23CE"_s, u"\n|<"_s},
+        {"tag with its end", insertGT, u"|"_s, u"<\u2026bod\u23CE</\u23CE"_s, u"<body></body>|"_s},
+        {"tag that has no end", insertGT + putsIn, u"|"_s, u"<\u2026im\u23CE"_s, u"<img>|"_s},
+        {"end tag offered", {}, u"|"_s, u"<b><\u23CE"_s, u"<b></b>|"_s},
+        {"end tag chosen by arrow", {}, u"|"_s, u"<b>\u2193\u23CE"_s, u"<b></b>|"_s},
+        {"end tag not chosen", {}, u"|"_s, u"<b> x"_s, u"<b> x|"_s},
+        {"end tag put in", putsIn, u"|"_s, u"<TD a=b>x"_s, u"<TD a=b>x|</TD>"_s},
+        {"end tag that is there", putsIn, u"|</B>"_s, u"<b>"_s, u"<b>|</B>"_s},
+        {"no end tags", {u"Auto/Closetag=0"_s}, u"|"_s, u"<b><\u23CE"_s, u"<b><\n|"_s},
+        {"attribute", {}, u"<a|>"_s, u" \u2026hre\u23CE"_s, u"<a href=\"|\">"_s},
+        {"other attribute", {}, u"<a|>"_s, u" \u2026hr\u2193\u23CE"_s, u"<a id=\"|\">"_s},
+        {"bare attribute", {}, u"<hr|>"_s, u" \u2026no\u23CE"_s, u"<hr noshade|>"_s},
+        {"attribute by arrows", {}, u"<pre|>"_s, u" \u2026c\u2193\u2191 "_s, u"<pre cols=\"|\">"_s},
+        {"attribute, then its value", {}, u"<p|>"_s, u" \u2026al \u2026ri "_s, u"<p align=\"right|\">"_s},
+        {"value", {}, u"<p align=|>"_s, u"\"\u2026ri\u23CE\""_s, u"<p align=\"right\"|>"_s},
+        {"closing quote", {}, u"<p align=|>"_s, u"\"\u2026r\"\u23CE"_s, u"<p align=\"r\"\n|>"_s},
+        {"file", {}, u"<a href=|>"_s, u"\"\u2026\u2193\u23CE\""_s, u"<a href=\"pic.gif\"|>"_s},
+        {"colour", {}, u"<p text=|>"_s, u"\"\u2026(c\u23CE\""_s, u"<p text=\"(c#112233\"|>"_s},
+        {"bold", {}, u"a[x]"_s, u"\u2303B"_s, u"a<b>x|</b>"_s},
+        {"Tab", {}, u"a|"_s, u"\u21E5"_s, u"a    |"_s},
+        {"Home twice", {}, u"a\n  x|y"_s, u"\u21E41\u21E4\u21E4"_s, u"a\n|  1xy"_s},
+        {"Enter keeps the indent", {}, u"a\n  x|"_s, u"\u23CEy"_s, u"a\n  x\n  y| "_s},
+    };
+    // clang-format on
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        Set({u"Auto/TagInsertGT=0"_s, u"Auto/ClosetagVersion=2"_s, u"Auto/Closetag=1"_s});
+        Set(row.settings);
+        SetMarked(source, row.before);
+        document.RemoveLists();
+        TypeKeys(row.keys);
+        EXPECT_EQ(Marked(source), row.after);
+        EXPECT_EQ(document.Modyfied(), u"1"_s);
+        ExpectTextIsShown(source);
+    }
+}
+
+TEST_F(Typing, UndoTakesBackWhatAKeyInserted)
+{
+    const struct
+    {
+        const char *name;
+        QString before;
+        QString keysBefore;
+        QString key;
+    } rows[] = {{"Ctrl+B", u"[x]"_s, {}, u"\u2303B"_s},
+                {"accepting", u"|"_s, u"<\u2026im"_s, u"\u23CE"_s},
+                {"Tab", u"[x]"_s, {}, u"\u21E5"_s},
+                {"Ctrl+Enter", u"<b>|"_s, u"x="_s, u"\u2303\u23CE"_s}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        SetMarked(source, row.before);
+        source.AddUndo();
+        TypeKeys(row.keysBefore);
+        LetSnapshotBeTaken();
+        const QString text = source.Text();
+        TypeKeys(row.key);
+        const QString after = source.Text();
+        ASSERT_NE(after, text);
+        LetSnapshotBeTaken();
+        source.Undo();
+        EXPECT_EQ(source.Text(), text);
+        source.Redo();
+        EXPECT_EQ(source.Text(), after);
+    }
+}
+
+TEST_F(Typing, ListStaysInTheWindowAndClearOfTheCaret)
+{
+    source.SetText((QString(300, u'x') + u"\r\n"_s).repeated(40));
+    for (const int line : {0, 1, 20, 39}) {
+        for (const int column : {0, 40, 300}) {
+            source.SetSelStart(source.LineStartPos(line) + column);
+            source.ensureCursorVisible();
+            Settle();
+            TypeKeys(u"<\u2026"_s);
+            ASSERT_TRUE(Shown());
+            const QRect place = Shown()->geometry();
+            EXPECT_TRUE(document.rect().contains(place)) << line << ':' << column;
+            const QPoint caret = source.viewport()->mapTo(&document, source.cursorRect().center());
+            EXPECT_FALSE(place.contains(caret)) << line << ':' << column;
+            EXPECT_GT(place.height(), 50);
+            document.RemoveLists();
+        }
+    }
+}
+
+TEST_F(Typing, ListGoesWhenItsTextDoes)
+{
+    const std::pair<const char *, std::function<void()>> rows[]
+        = {{"scrolling", [this] { source.verticalScrollBar()->setValue(10); }},
+           {"clicking into the text",
+            [this] {
+                Click(*source.viewport(), {50, 50});
+            }},
+           {"a command", [this] { source.SetSelText(u"x"_s); }},
+           {"undo", [this] { source.Undo(); }},
+           {"leaving", [this] {
+                QFocusEvent out(QEvent::FocusOut);
+                QCoreApplication::sendEvent(&source, &out);
+            }}};
+    source.SetText(u"\r\n"_s.repeated(100));
+    source.AddUndo();
+    source.AddUndo();
+    for (const auto &[name, leave] : rows) {
+        source.SetSelStart(0);
+        source.ensureCursorVisible();
+        Settle();
+        TypeKeys(u"<\u2026"_s);
+        leave();
+        EXPECT_FALSE(Shown()) << name;
+    }
+}
+
+TEST_F(Typing, ClickAcceptsARow)
+{
+    TypeKeys(u"<\u2026im"_s);
+    QListWidget *list = Shown();
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->focusPolicy(), Qt::NoFocus);
+    Click(*list->viewport(), list->visualItemRect(list->currentItem()).center());
+    EXPECT_EQ(Marked(source), u"<img|"_s);
+    EXPECT_FALSE(Shown());
+}
+
+TEST_F(Typing, MacrosAreRunFromTheirList)
+{
+    QString run;
+    document.Typing().RunMacro = [&run](const QString &name) { run = name; };
+    document.Typing().ShowMacros({u"one"_s, u"two"_s});
+    TypeKeys(u"\u2193\u2193\u23CE"_s);
+    EXPECT_EQ(run, u"two"_s);
+    EXPECT_EQ(source.Text() + (Shown() ? u"shown"_s : QString()), QString());
+}
+
+TEST_F(Typing, NoKeyIsLostAtFullSpeed)
+{
+    Set({u"Auto/TagDuration=60000"_s,
+         u"Auto/AttributeDuration=60000"_s,
+         u"Settings/Value=60000"_s});
+    for (const bool putsIn : {false, true}) {
+        const bool eventsBetween = putsIn;
+        SaveSetting(u"Auto", u"ClosetagVersion", putsIn ? u"1"_s : u"2"_s);
+        TypingRules rules(putsIn);
+        source.SetText({});
+        for (const QChar key : RealPage.repeated(3)) {
+            rules.Key(key);
+            Type(source, key == u'\n' ? u"\u23CE"_s : QString(key));
+            if (eventsBetween)
+                QCoreApplication::processEvents();
+        }
+        EXPECT_EQ(source.Text(), rules.page.Text());
+        EXPECT_EQ(source.SelStart(), rules.page.SelStart());
+    }
+}
+
+TEST_F(Typing, PageOfOneLongLine)
+{
+    const QString line = u"<p class=x>text</p>"_s.repeated(1 << 16);
+    source.SetText(line);
+    for (const int place : {0, int(line.size()) / 2, int(line.size())}) {
+        source.SetSelStart(place);
+        TypeKeys(u"<\u2026im\u23CE"_s);
+        EXPECT_EQ(source.TextAt(place, 4), u"<img"_s);
+        EXPECT_EQ(source.SelStart(), place + 4);
+    }
+    EXPECT_EQ(source.TextLength(), line.size() + 12);
+}
+
+} // namespace
