@@ -32,6 +32,7 @@ NewDocumentPane::NewDocumentPane(QWidget *parent)
                        u"Simple HTML Document"_s,
                        u"Empty Document"_s,
                        u"XHTML Document"_s});
+    setFocusProxy(m_kinds);
     for (int wizard = 0; wizard < FirstKindRow; ++wizard)
         m_kinds->item(wizard)->setFlags(Qt::NoItemFlags);
 

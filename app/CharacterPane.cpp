@@ -1,0 +1,57 @@
+#include "app/CharacterPane.h"
+
+#include "app/PaneList.h"
+#include "app/SkinIcons.h"
+#include "tags/Entities.h"
+#include "tags/frmTagCode.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    const QString Separator = u" - "_s; // between a character and its entity
+
+}
+
+CharacterPane::CharacterPane(ActivePage activePage, QWidget *parent)
+    : QWidget(parent)
+    , m_activePage(std::move(activePage))
+{
+    setObjectName(u"Chars"_s);
+    QListWidget *list = NewPaneList(u"List7"_s, u"Special Characters"_s, this);
+    list->addItems(CharacterMapRows());
+    connect(list, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
+        InsertIntoPage(m_activePage, item->text().section(Separator, 1));
+    });
+
+    auto *caption = new QLabel(u"Special Characters"_s, this);
+    caption->setBuddy(list);
+    auto *translate = new QToolButton(this);
+    translate->setObjectName(u"Button1_4"_s);
+    translate->setIcon(ProgramIcon(u"CharCode"));
+    translate->setToolTip(u"Transelate into charcode"_s);
+    translate->setAccessibleName(translate->toolTip());
+    translate->setAutoRaise(true);
+    connect(translate, &QToolButton::clicked, this, &CharacterPane::Translate);
+
+    auto *head = new QHBoxLayout;
+    head->addWidget(caption, 1);
+    head->addWidget(translate);
+    QVBoxLayout *layout = NewPaneLayout(this);
+    layout->addLayout(head);
+    layout->addWidget(list, 1);
+    setFocusProxy(list);
+}
+
+void CharacterPane::Translate()
+{
+    if (DocumentModel *page = m_activePage())
+        frmTagCode(*page, window()).exec();
+}
+
+} // namespace brenix

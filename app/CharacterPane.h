@@ -1,0 +1,22 @@
+#pragma once
+
+#include "app/ActivePage.h"
+
+#include <QWidget>
+
+namespace brenix {
+
+/// The character map: a double click or Enter inserts the entity of a character. A dialog turns
+/// whole texts into entities.
+class CharacterPane : public QWidget
+{
+public:
+    explicit CharacterPane(ActivePage activePage, QWidget *parent = nullptr);
+
+private:
+    void Translate();
+
+    ActivePage m_activePage;
+};
+
+} // namespace brenix
