@@ -1,0 +1,193 @@
+#include "insert/frmHyperlink.h"
+
+#include "editor/InsertMarkup.h"
+#include "support/DocumentModel.h"
+#include "support/Help.h"
+#include "support/SourceView.h"
+#include "tags/ChooseLink.h"
+#include "tags/RecentBox.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace brenix {
+
+namespace {
+
+    struct Kind
+    {
+        LinkKind kind;
+        const char16_t *key;
+        const char16_t *caption;
+    };
+    constexpr Kind Kinds[] = {{LinkKind::Exist, u"Exist", u"Existing file"},
+                              {LinkKind::Inside, u"Inside", u"Inside Document"},
+                              {LinkKind::Mail, u"Mail", u"Mail Address"}};
+
+    constexpr char16_t TargetFilter[]
+        = u"All Files (*.*)|*.*|HyperText files (*.html;*.htm)|*.html;*.htm|URL Files "
+          u"(*.url)|*.url|Webfiles (*.xml;*.asp;*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm)|*.xml;*.asp;"
+          u"*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm";
+
+} // namespace
+
+frmHyperlink::frmHyperlink(DocumentModel &page, Mode mode, QWidget *parent)
+    : FormDialog(u"frmHyperlink", u"Insert HyperLink"_s, parent)
+    , m_page(page)
+    , m_mode(mode)
+    , m_recent(SplitRecentAddresses(ReadRecentAddresses()))
+    , m_kinds(new QTreeWidget(this))
+    , m_pages(new QStackedWidget(this))
+{
+    if (mode == Mode::Edit)
+        m_link = ReadHyperlink(page.rtfText().SelText());
+    BuildKinds();
+    for (QWidget *kindPage : {AddressPage(), AnchorPage(), MailPage()})
+        m_pages->addWidget(kindPage);
+    auto *body = new QWidget(this);
+    auto *columns = new QHBoxLayout(body);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->addWidget(m_kinds);
+    columns->addWidget(m_pages, 1);
+    Rows().Add(body, 1);
+    if (mode == Mode::Insert)
+        Rows().Text(u"Text1", u"Hyperlink &Text:"_s, m_link.text);
+    AddButtons({.ok = u"Command2", .cancel = u"Command3", .help = u"Command1"},
+               [] { ShowHelp(u"HYPERLINK"_s); });
+    m_address->setFocus();
+}
+
+void frmHyperlink::BuildKinds()
+{
+    m_kinds->setObjectName(u"TW"_s);
+    m_kinds->setAccessibleName(u"Kind of link"_s);
+    m_kinds->setHeaderHidden(true);
+    m_kinds->setRootIsDecorated(false);
+    m_kinds->setFixedWidth(fontMetrics().averageCharWidth() * 24);
+    for (const Kind &kind : Kinds)
+        new QTreeWidgetItem(m_kinds, {QString::fromUtf16(kind.caption)});
+    m_kinds->setCurrentItem(m_kinds->topLevelItem(0));
+    connect(m_kinds, &QTreeWidget::currentItemChanged, this, &frmHyperlink::ShowKind);
+}
+
+QWidget *frmHyperlink::AddressPage()
+{
+    auto *page = new QWidget(this);
+    page->setObjectName(u"Exist"_s);
+    Form &form = *m_forms.emplace_back(std::make_unique<Form>(page));
+    m_address = form.Combo(u"AutoComplete1",
+                           u"Please enter the &address you want to link to:"_s,
+                           m_recent.addresses,
+                           m_link.address);
+    m_address->installEventFilter(this);
+    connect(m_address->lineEdit(), &QLineEdit::textEdited, this, &frmHyperlink::CompleteAddress);
+    form.ButtonBeside(u"Command4", u"&Browse..."_s, [this] { ChooseTarget(); });
+    form.AddStretch();
+    return page;
+}
+
+QWidget *frmHyperlink::AnchorPage()
+{
+    auto *page = new QWidget(this);
+    page->setObjectName(u"Picture1"_s);
+    Form &form = *m_forms.emplace_back(std::make_unique<Form>(page));
+    m_anchors = form.List(u"List1",
+                          u"&Select the possision in the document that you want to link to:"_s,
+                          {},
+                          m_link.anchor);
+    connect(m_anchors, &QListWidget::itemDoubleClicked, this, &frmHyperlink::accept);
+    return page;
+}
+
+QWidget *frmHyperlink::MailPage()
+{
+    auto *page = new QWidget(this);
+    page->setObjectName(u"Mail"_s);
+    Form &form = *m_forms.emplace_back(std::make_unique<Form>(page));
+    QComboBox *mail = form.Combo(u"Combo3",
+                                 u"Please enter the &mail address you want to link to:"_s,
+                                 m_recent.mail,
+                                 m_link.mail);
+    auto *recent = new QListWidget(page);
+    recent->setObjectName(u"List2"_s);
+    recent->setAccessibleName(u"Recently used mail addresses"_s);
+    recent->addItems(m_recent.mail);
+    form.Note(u"Recently used mail addresses"_s);
+    form.Add(recent, 1);
+    connect(recent, &QListWidget::currentTextChanged, mail, &QComboBox::setEditText);
+    return page;
+}
+
+void frmHyperlink::ShowKind()
+{
+    const int index = m_kinds->indexOfTopLevelItem(m_kinds->currentItem());
+    if (index < 0)
+        return;
+    m_link.kind = Kinds[index].kind;
+    m_pages->setCurrentIndex(index);
+    if (m_link.kind != LinkKind::Inside)
+        return;
+    m_anchors->clear();
+    m_anchors->addItems(AnchorsOf(m_page.rtfText().Text()));
+}
+
+void frmHyperlink::ChooseTarget()
+{
+    const QString path
+        = OpenFileName({.title = u"Link to file"_s, .filter = QString::fromUtf16(TargetFilter)});
+    if (path.isEmpty())
+        return;
+    if (path.endsWith(u"url", Qt::CaseInsensitive)) {
+        if (const std::optional<QString> line = ShortcutLine(path))
+            m_address->setEditText(ShortcutAddress(*line));
+        return;
+    }
+    m_address->setEditText(LinkTo(m_page, path));
+}
+
+void frmHyperlink::CompleteAddress(const QString &typed)
+{
+    const QString whole = WithScheme(typed);
+    if (whole == typed)
+        return;
+    QLineEdit *box = m_address->lineEdit();
+    const int caret = box->cursorPosition() + int(whole.size() - typed.size());
+    box->setText(whole);
+    box->setCursorPosition(caret);
+}
+
+bool frmHyperlink::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_address || event->type() != QEvent::KeyPress)
+        return FormDialog::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    if (!isEnter || !(key->modifiers() & Qt::ControlModifier))
+        return false;
+    m_address->setEditText(WebSiteOf(m_address->currentText()));
+    return true;
+}
+
+bool frmHyperlink::Accepted()
+{
+    for (const std::unique_ptr<Form> &form : m_forms)
+        form->Store();
+    StoreRecentAddresses(JoinRecentAddresses(m_recent, HyperlinkAddress(m_link)));
+    if (m_mode == Mode::Insert) {
+        InsertMarkup(m_page, HyperlinkMarkup(m_link));
+        return true;
+    }
+    SourceView &source = m_page.rtfText();
+    source.AddUndo();
+    source.SetSelText(HyperlinkStartTag(m_link));
+    return true;
+}
+
+} // namespace brenix

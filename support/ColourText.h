@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace brenix {
+
+/// A colour in blue-green-red order, as the system's dialog gives it, in the form that pages have:
+/// "#" and six upper-case hexadecimal digits for red, green and blue.
+inline QString ColourText(quint32 colour)
+{
+    const quint32 redFirst = (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
+    return u'#' + QString::number(redFirst, 16).rightJustified(6, u'0').toUpper();
+}
+
+} // namespace brenix

@@ -1,0 +1,187 @@
+#include "support/Paths.h"
+#include "support/Pictures.h"
+#include "tests/app/MainWindowFixture.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+
+using namespace brenix;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The dialogs as an author works with them: by the keyboard, on a page.
+class InsertDialogs : public MainWindowFixture
+{
+protected:
+    void StartWith(const QByteArray &page, int caret, int length = 0)
+    {
+        Stop();
+        Start({Write(u"page.html"_s, page)});
+        Active().Status = u"HTML"_s;
+        Active().Source().SetSelStart(caret);
+        Active().Source().SetSelLength(length);
+    }
+    /// Runs a command whose dialog gets the keys.
+    void Run(const QString &command, const std::function<void(QWidget &dialog)> &keys)
+    {
+        bool shown = false;
+        QTimer::singleShot(0, [&] {
+            if (QWidget *dialog = QApplication::activeModalWidget()) {
+                shown = true;
+                keys(*dialog);
+                if (QApplication::activeModalWidget() == dialog)
+                    Press(*dialog, Qt::Key_Escape);
+            }
+        });
+        Trigger(command);
+        EXPECT_TRUE(shown);
+    }
+    static void TypeInto(QWidget &dialog, const QString &text)
+    {
+        Type(*dialog.focusWidget(), text);
+    }
+    static void Enter(QWidget &dialog) { Press(*dialog.focusWidget(), Qt::Key_Return); }
+    static void Tab(QWidget &dialog, int times = 1)
+    {
+        for (int i = 0; i < times; ++i)
+            Press(*dialog.focusWidget(), Qt::Key_Tab);
+    }
+    QString Text() { return Active().Source().Text(); }
+};
+
+TEST_F(InsertDialogs, Hyperlink)
+{
+    StartWith("<p>a word</p>", 5, 4);
+    Run(u"mnuInsertHyperlink"_s, [](QWidget &dialog) {
+        TypeInto(dialog, u"www.example.org"_s);
+        Enter(dialog);
+    });
+    EXPECT_EQ(Text(), u"<p>a <a href=\"http://www.example.org\">word</a></p>"_s);
+    EXPECT_EQ(Active().Modyfied(), u"1"_s);
+
+    StartWith("<A HREF=\"Old.htm\" title=\"x\">go</a>", 5);
+    Run(u"mnuEditTag"_s, [](QWidget &dialog) {
+        EXPECT_EQ(dialog.objectName(), u"frmHyperlink"_s);
+        Press(*dialog.focusWidget(), Qt::Key_End);
+        TypeInto(dialog, u"l"_s);
+        Enter(dialog);
+    });
+    EXPECT_EQ(Text(), u"<a href=\"old.html\">go</a>"_s);
+
+    StartWith("<a name=\"top\">x</a>", 19);
+    Run(u"mnuInsertHyperlink"_s, [](QWidget &dialog) {
+        auto *kinds = dialog.findChild<QWidget *>(u"TW"_s);
+        Press(*kinds, Qt::Key_Down);
+        auto *anchors = dialog.findChild<QListWidget *>(u"List1"_s);
+        ASSERT_EQ(anchors->count(), 1);
+        Press(*anchors, Qt::Key_Down);
+        Enter(dialog);
+    });
+    EXPECT_EQ(Text(), u"<a name=\"top\">x</a><a href=\"#top\"></a>"_s);
+    EXPECT_EQ(Read(AppPath(u"Files.dat")).count("example"), 1) << "the recent addresses are kept";
+}
+
+TEST_F(InsertDialogs, EditTag)
+{
+    StartWith("<TD width=\"5\" NoWrap align=\"left\">x", 3);
+    Run(u"mnuEditTag"_s, [](QWidget &dialog) {
+        EXPECT_EQ(dialog.objectName(), u"frmEditTag"_s);
+        dialog.findChild<QPushButton *>(u"Command3"_s)->click();
+        TypeInto(dialog, u"id"_s);
+        Tab(dialog);
+        TypeInto(dialog, u"cell"_s);
+        Enter(dialog);
+    });
+    EXPECT_EQ(Text(), u"<td width=\"5\" NoWrap align=\"left\" id=\"Valuecell\">x"_s);
+
+    const std::pair<QByteArray, QString> messages[]
+        = {{"<!-- a -->", u"Cannot edit comment tag"_s}, {"</b>", u"Cannot edit end tag"_s}};
+    for (const auto &[page, message] : messages) {
+        StartWith(page, 2);
+        boxes.asked.clear();
+        Trigger(u"mnuEditTag"_s);
+        EXPECT_EQ(boxes.asked, QStringList(message));
+        EXPECT_EQ(Text(), QString::fromLatin1(page));
+    }
+    StartWith("<b>bold</b> text", 0, 11);
+    Trigger(u"mnuEditTag"_s);
+    EXPECT_EQ(Text(), u"<b>bold</b> text"_s) << "a selection that is no tag";
+}
+
+TEST_F(InsertDialogs, Image)
+{
+    for (const char *format : {"png", "jpg", "bmp"})
+        QImage(12, 7, QImage::Format_RGB32).save(folder.filePath(u"p."_s + QLatin1String(format)));
+    Write(u"p.svg"_s, "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"12\" height=\"7\"/>");
+    QByteArray huge = Read(folder.filePath(u"p.png"_s));
+    huge.replace(16, 8, QByteArray("\0\0\x75\x30\0\0\x75\x30", 8));
+    Write(u"huge.png"_s, huge);
+    const QByteArray jpeg = Read(folder.filePath(u"p.jpg"_s));
+    Write(u"torn.jpg"_s, jpeg.first(jpeg.size() / 2));
+
+    const std::pair<QString, QString> cases[] = {{u"p.png"_s, u"12x7"_s},
+                                                 {u"p.jpg"_s, u"12x7"_s},
+                                                 {u"p.bmp"_s, u"12x7"_s},
+                                                 {u"p.svg"_s, u"12x7"_s},
+                                                 {u"huge.png"_s, u"x"_s},
+                                                 {u"torn.jpg"_s, u"x"_s},
+                                                 {u"missing.gif"_s, u"x"_s}};
+    for (const auto &[name, size] : cases) {
+        SCOPED_TRACE(qPrintable(name));
+        StartWith("", 0);
+        boxes.asked.clear();
+        Run(u"mnuInsertImage"_s, [&, name = name, size = size](QWidget &dialog) {
+            TypeInto(dialog, name);
+            dialog.findChild<QPushButton *>(u"ActiveButton2"_s)->click();
+            dialog.findChild<QPushButton *>(u"Command5"_s)->click();
+            EXPECT_EQ(dialog.findChild<QLineEdit *>(u"Text2"_s)->text(),
+                      u"Image: %1 (%2)"_s.arg(name, size));
+            Enter(dialog);
+        });
+        if (size == u"x")
+            EXPECT_EQ(boxes.asked.value(0),
+                      u"Unable to calculate width and height for the file: "_s
+                          + folder.filePath(name));
+        else
+            EXPECT_EQ(Text(),
+                      u"<img src=\"%1\" alt=\"image: %1 (12x7)\" border=\"\" height=\"7\" "
+                      "width=\"12\">"_s.arg(name));
+    }
+}
+
+TEST_F(InsertDialogs, TagAndDesigner)
+{
+    StartWith("word", 0, 4);
+    Run(u"mnuStartTag"_s, [](QWidget &dialog) {
+        TypeInto(dialog, u"b"_s);
+        dialog.findChild<QAbstractButton *>(u"Check1"_s)->click();
+        Enter(dialog);
+    });
+    EXPECT_EQ(Text(), u"<b>word</b>"_s);
+    Active().Source().SetSelStart(7);
+    Trigger(u"mnuEndTag"_s);
+    EXPECT_EQ(Text(), u"<b>word</b></b>"_s);
+
+    StartWith("", 0);
+    Run(u"mnuTagDesigner"_s, [](QWidget &dialog) {
+        TypeInto(dialog, u"hr"_s);
+        dialog.findChild<QPushButton *>(u"Command1"_s)->click();
+        auto *attributes = dialog.findChild<QListWidget *>(u"List2"_s);
+        EXPECT_EQ(attributes->count(), 11);
+        for (const QString &name : {u"noshade"_s, u"width"_s}) {
+            attributes->setCurrentItem(attributes->findItems(name, Qt::MatchExactly).value(0));
+            dialog.findChild<QLineEdit *>(u"Text1"_s)->setText(u"9"_s);
+            const QString insert = name == u"width" ? u"Command5"_s : u"Command6"_s;
+            dialog.findChild<QPushButton *>(insert)->click();
+        }
+        dialog.findChild<QPushButton *>(u"Command1"_s)->click();
+    });
+    EXPECT_EQ(Text(), u"<hr noshade width=\"9\" >"_s);
+}
+
+} // namespace
