@@ -1,9 +1,9 @@
 #include "app/CloseProtocol.h"
 
-#include "app/Documents.h"
 #include "support/MessageBoxes.h"
 #include "support/PreviewCopies.h"
 #include "support/SourceView.h"
+#include "support/UntitledPages.h"
 
 #include <QFile>
 

@@ -60,6 +60,11 @@ DesignTools::DesignTools(QWidget *parent)
             this,
             &DesignTools::ChooseTextColour);
     addSeparator();
+    QAction *table = addAction(SkinIcon(u"Table"), u"Insert table"_s);
+    connect(table, &QAction::triggered, this, [this, table] {
+        const QWidget *button = widgetForAction(table);
+        emit TableClicked(button->mapToGlobal(button->rect().bottomLeft()));
+    });
     m_borders = AddView(
         u"Tableborder", u"Show borders"_s, [this](bool on) { m_view->SetShowBorders(on); });
     m_details

@@ -23,6 +23,10 @@ public:
     /// Presses the buttons that hold for the selection.
     void Follow();
 
+signals:
+    /// A table is wanted; `place` is the lower left corner of the button, on the screen.
+    void TableClicked(const QPoint &place);
+
 private:
     QAction *AddView(const char16_t *icon,
                      const QString &tip,

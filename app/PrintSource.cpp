@@ -1,10 +1,9 @@
 #include "app/PrintSource.h"
 
 #include "editor/CodeHighlight.h"
-
-#include <QPageSetupDialog>
-#include <QPrintDialog>
-#include <QPrinter>
+#include "support/MessageBoxes.h"
+#include "support/Modules.h"
+#include "support/PrintModule.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,31 +11,31 @@ namespace brenix {
 
 namespace {
 
-    // Made when first asked for: looking for printers takes time.
-    QPrinter &Printer()
+    // Null, after a message, when this installation cannot print.
+    PrintModule *LoadPrintModule()
     {
-        static QPrinter printer(QPrinter::HighResolution);
-        return printer;
+        static const LoadedModule loaded = LoadModule(u"brenix-print"_s);
+        auto *module = qobject_cast<PrintModule *>(loaded.root);
+        if (!module)
+            MsgBox(u"Can't print.\n\n"_s + loaded.error, Buttons::Ok, Icon::Critical);
+        return module;
     }
 
 } // namespace
 
 void PageSetup(QWidget *window)
 {
-    QPageSetupDialog dialog(&Printer(), window);
-    dialog.setWindowTitle(u"Page Setup"_s);
-    dialog.exec();
+    if (PrintModule *module = LoadPrintModule())
+        module->PageSetup(window);
 }
 
 void PrintSource(CodeHighlight &source, QWidget *window)
 {
-    QPrintDialog dialog(&Printer(), window);
-    dialog.setWindowTitle(u"Print"_s);
-    const bool selection = source.SelLength() > 0;
-    dialog.setOption(QAbstractPrintDialog::PrintSelection, selection);
-    Printer().setPrintRange(selection ? QPrinter::Selection : QPrinter::AllPages);
-    if (dialog.exec() == QDialog::Accepted)
-        source.SelPrint(&Printer());
+    PrintModule *module = LoadPrintModule();
+    if (!module)
+        return;
+    if (QPagedPaintDevice *printer = module->AskPrinter(window, source.SelLength() > 0))
+        source.SelPrint(printer);
 }
 
 } // namespace brenix

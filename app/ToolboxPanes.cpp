@@ -75,12 +75,11 @@ QWidget *ToolboxPanes::NewActiveDocuments()
 QWidget *ToolboxPanes::NewErrorChecker()
 {
     m_errorChecker = new ErrorCheckerPane(m_host.activePage, &m_toolbox);
-    m_errorChecker->AddChecker(
-        u"mnuCheckRules",
-        u"Check with built-in rules"_s,
-        [this](const QString &text, const QString &, const GoOn &goOn) {
-            return ErrorChecking(text, TagsOfDialect(m_dialect), goOn);
-        });
+    m_errorChecker->AddChecker(u"mnuCheckRules",
+                               u"Check with built-in rules"_s,
+                               [this](const QString &text, const QString &, const GoOn &goOn) {
+                                   return ErrorChecking(text, TagsOfDialect(m_dialect), goOn);
+                               });
     m_errorChecker->AddChecker(u"mnuCheckCharacters", u"Check characters"_s, ErrorCheck);
     HandOverCheck();
     return m_errorChecker;

@@ -51,7 +51,8 @@ public:
     void OpenSearch();
     /// False when there is no text to search for yet.
     bool SearchNext();
-    /// What is searched for next; makes the search pane the one that is shown if it was not yet made.
+    /// What is searched for next; makes the search pane the one that is shown if it was not yet
+    /// made.
     void SetSearchText(const QString &text);
     bool IsLiveSearch() const;
 

@@ -1,7 +1,7 @@
 #include "app/frmDocument.h"
 
+#include "app/CaretStatus.h"
 #include "app/CloseProtocol.h"
-#include "app/Documents.h"
 #include "app/TakeDesign.h"
 #include "app/ViewSwitch.h"
 #include "editor/CodeHighlight.h"
@@ -11,6 +11,7 @@
 #include "support/Paths.h"
 #include "support/PreviewCopies.h"
 #include "support/SettingsStore.h"
+#include "support/UntitledPages.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -74,8 +75,10 @@ frmDocument::frmDocument(MainWindowBars &bars, const QString &caption, QWidget *
     m_previewPlace->setAutoFillBackground(true);
     m_previewPlace->setBackgroundRole(QPalette::Base);
     m_previewPlace->setWordWrap(true);
+    m_caretStatus = std::make_unique<CaretStatus>(*m_source, *this);
     BuildSplitters();
     BuildViewBar();
+    BuildTyping();
     for (QTimer *timer : {&m_refresher, &m_copyWriter, &m_previewStart})
         timer->setSingleShot(true);
     m_autoSave.setParent(this);
@@ -103,8 +106,10 @@ void frmDocument::ConnectFields()
     SplitHV.OnAssign([this](const QString &) { RunLayout(); });
 
     connect(m_source, &CodeHighlight::Change, this, &frmDocument::OnSourceChange);
+    connect(m_source, &CodeHighlight::SelChange, m_caretStatus.get(), [this] {
+        m_caretStatus->Follow(Folder());
+    });
     connect(m_source, &CodeHighlight::Restored, this, [this] { KeyDone = true; });
-    connect(m_source, &CodeHighlight::KeyPress, this, [this] { KeyDone = true; });
     connect(m_source, &CodeHighlight::ContextMenu, this, &frmDocument::ContextMenu);
     connect(&m_refresher, &QTimer::timeout, this, &frmDocument::OnRefresher);
     connect(&m_copyWriter, &QTimer::timeout, this, &frmDocument::WritePreview);
@@ -255,7 +260,6 @@ void frmDocument::OnSourceChange()
         Modyfied = u"1"_s;
         KeyDone = true;
     }
-    RemoveLists();
     m_copyStale = true;
     if (Status() != u"Split")
         return;

@@ -10,7 +10,9 @@ class QToolBar;
 
 namespace brenix {
 
+class CaretStatus;
 class CodeHighlight;
+class SourceTyping;
 class SplitBar;
 
 /// The window of one document: source view, preview, the bars between them and the view bar below.
@@ -30,9 +32,10 @@ public:
     bool LoadDesign() override;
     void ArmRefresher(int milliseconds) override;
     void RunLayout() override;
-    void RemoveLists() override { }
+    void RemoveLists() override;
 
     CodeHighlight &Source() { return *m_source; }
+    SourceTyping &Typing() { return *m_typing; }
     /// Loads a file that becomes the document's own, or a template, whose text starts an unsaved
     /// document. A file that cannot be read leaves the page empty, after a message; false then.
     bool OpenFile(const QString &path);
@@ -80,6 +83,7 @@ protected:
 private:
     void BuildViewBar();
     void BuildSplitters();
+    void BuildTyping();
     void ConnectFields();
     void PlaceSplit();
     void DragSplit(int position, bool finished);
@@ -96,6 +100,8 @@ private:
 
     MainWindowBars &m_bars;
     CodeHighlight *m_source;
+    SourceTyping *m_typing = nullptr;
+    std::unique_ptr<CaretStatus> m_caretStatus;
     BrowserView *m_browser = nullptr;
     DesignView *m_design = nullptr;
     QLabel *m_previewPlace; // stands where the preview will be until the web engine is up

@@ -3,7 +3,6 @@
 #include "app/AddressBar.h"
 #include "app/DesignBar.h"
 #include "app/DesignTools.h"
-#include "app/NewDocumentPane.h"
 #include "app/SkinIcons.h"
 #include "app/Toolbox.h"
 #include "app/frmDocument.h"
@@ -14,8 +13,6 @@
 #include "support/Paths.h"
 
 #include <QBoxLayout>
-#include <QComboBox>
-#include <QDir>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -60,11 +57,11 @@ frmMain::frmMain()
 {
     setObjectName(u"frmMain"_s);
     setAcceptDrops(true);
-    setWindowIcon(QIcon(AppPath(u"brenix.ico")));
     setContextMenuPolicy(Qt::NoContextMenu);
     BuildCentre();
     BuildMenu();
     BuildStatusBars();
+    FollowClipboard();
     setWindowTitle(u"Brenix"_s); // a maximised document adds its own name
 }
 
@@ -97,9 +94,6 @@ void frmMain::BuildCentre()
     });
 
     BuildToolbox();
-    m_filter = new QComboBox(m_toolbox);
-    m_filter->setObjectName(u"Filter"_s);
-    m_filter->hide();
     auto *documents = new QWidget(this);
     auto *layout = new QVBoxLayout(documents);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -116,35 +110,6 @@ void frmMain::BuildCentre()
     setCentralWidget(m_splitter);
 }
 
-void frmMain::BuildToolbox()
-{
-    m_toolbox = new Toolbox(this);
-    connect(m_toolbox, &Toolbox::CloseClicked, this, [this] { ShowToolbox(false); });
-}
-
-// Made when the window stands, or somebody asks for it before.
-NewDocumentPane &frmMain::NewDocuments()
-{
-    if (m_newDocumentPane)
-        return *m_newDocumentPane;
-    m_newDocumentPane = new NewDocumentPane(m_toolbox);
-    m_newDocumentPane->RebuildOpenList();
-    m_newDocumentPane->SetTemplates(QDir(AppPath(u"Templates")).entryList(QDir::Files, QDir::Name));
-    m_toolbox->AddPane(m_newDocumentPane, u"New Document"_s);
-    connect(m_newDocumentPane, &NewDocumentPane::KindChosen, this, &frmMain::NewDocument);
-    connect(m_newDocumentPane, &NewDocumentPane::OpenRowChosen, this, &frmMain::OpenListRow);
-    connect(m_newDocumentPane, &NewDocumentPane::TemplateChosen, this, &frmMain::OpenTemplate);
-    connect(
-        m_newDocumentPane, &NewDocumentPane::TemplateDeletionAsked, this, &frmMain::DeleteTemplate);
-    return *m_newDocumentPane;
-}
-
-void frmMain::ShowToolbox(bool shown)
-{
-    m_toolbox->setVisible(shown);
-    m_menu->ActionOf(u"mnuToolboxs"_s)->setChecked(shown);
-}
-
 void frmMain::BuildMenu()
 {
     m_commands = Commands();
@@ -153,6 +118,9 @@ void frmMain::BuildMenu()
         m_menu->ActionOf(ticked)->setChecked(true);
     connect(m_menu->MenuOf(u"mnuView"_s), &QMenu::aboutToShow, this, &frmMain::TickViewMenu);
     connect(m_menu->MenuOf(u"mnuWindow"_s), &QMenu::aboutToShow, this, &frmMain::RebuildWindowMenu);
+    connect(m_menu->MenuOf(u"mnuFont"_s), &QMenu::aboutToShow, this, &frmMain::FillFontMenu);
+    connect(m_menu->MenuOf(u"mnuTidy"_s), &QMenu::aboutToShow, this, &frmMain::FillTidyMenu);
+    BuildViewKeys();
 }
 
 // Made in the start-up step of its own, when the skin is known.
@@ -176,6 +144,13 @@ void frmMain::BuildToolbars()
     m_toolbar1 = addToolBar(u"Standard"_s);
     m_toolbar1->setObjectName(u"Toolbar1"_s);
     fill(m_toolbar1, int(std::size(StandardButtons)));
+    m_toolbar1->addSeparator();
+    auto *style = new QToolButton(m_toolbar1);
+    style->setIcon(SkinIcon(u"Style"));
+    style->setToolTip(u"Style"_s);
+    style->setMenu(BuildStyleMenu());
+    style->setPopupMode(QToolButton::InstantPopup);
+    m_toolbar1->addWidget(style);
     m_noWindows = addToolBar(u"Start"_s);
     m_noWindows->setObjectName(u"NoWindows"_s);
     fill(m_noWindows, StartButtons);
@@ -279,9 +254,12 @@ void frmMain::ForActive(const std::function<void(frmDocument &)> &command)
 void frmMain::ShowBarsFor(const QString &status)
 {
     const bool sourceSide = status == u"HTML" || status == u"Split";
+    m_menu->Enable(u"mnuEditTag"_s, sourceSide);
+    m_menu->Enable(u"mnuPasteHTML"_s, status == u"Design");
     m_sourceBar->setVisible(sourceSide);
     m_previewBar->setVisible(status == u"Preview");
     m_designStatus->setVisible(status == u"Design");
+    EnableSelectionCommands();
     if (m_addressBar)
         m_addressBar->setVisible(sourceSide && m_menu->ActionOf(u"mnuViewToolbar"_s)->isChecked());
     ShowDesignBars(status == u"Design");
@@ -293,6 +271,7 @@ void frmMain::ShowDesignBars(bool shown)
     if (shown && !m_designBar) {
         m_designTools = new DesignTools(this);
         addToolBar(m_designTools);
+        connect(m_designTools, &DesignTools::TableClicked, this, &frmMain::PickTable);
         m_designBar = new DesignBar(this);
         addToolBar(m_designBar);
     }

@@ -4,12 +4,13 @@
 #include "support/DocumentModel.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 class QAction;
-class QComboBox;
 class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
+class QMenu;
 class QMimeData;
 class QSplitter;
 class QTabBar;
@@ -22,10 +23,17 @@ class AddressBar;
 class DesignBar;
 class DesignTools;
 class frmDocument;
+class frmHelp;
 class frmSplash;
+class MacroRunner;
 class NewDocumentPane;
+class TidyCheck;
+class TidyScript;
 class Toolbox;
+class ToolboxPanes;
 struct CommandLine;
+enum class HelpPlace;
+enum class TidyScriptPlace;
 
 /// The multiple-document main window: menus, toolbars, the bars below, the toolbox, and the
 /// document windows. Almost every command acts on the active document.
@@ -56,6 +64,7 @@ public:
     QString Address() const override;
     void SetAddress(const QString &address) override;
     bool IsLocalMode() const override;
+    QString Dialect() const override;
 
 signals:
     void PreviewPainted();
@@ -75,12 +84,18 @@ private:
     void BuildToolbars();
     void BuildStatusBars();
     void BuildToolbox();
-    NewDocumentPane &NewDocuments();
+    QWidget *NewNewDocumentPane();
     MainMenu::Commands Commands();
     void AddFileCommands(MainMenu::Commands &commands);
     void AddEditCommands(MainMenu::Commands &commands);
     void AddViewCommands(MainMenu::Commands &commands);
     void AddWindowCommands(MainMenu::Commands &commands);
+    void AddInsertCommands(MainMenu::Commands &commands);
+    void AddToolCommands(MainMenu::Commands &commands);
+    void AddHelpCommands(MainMenu::Commands &commands);
+    void AddToolboxCommands(MainMenu::Commands &commands);
+    void AddTidyCommands(MainMenu::Commands &commands);
+    void AddMacroCommands(MainMenu::Commands &commands);
 
     // start and end
     void ReadLanguageFile();
@@ -102,6 +117,7 @@ private:
     void DeleteTemplate(const QString &name);
     void SaveAsTemplate();
     void OpenDropped(const QMimeData &data);
+    void OpenFrom(const QString &folder);
     QList<frmDocument *> Documents() const;
     void ForActive(const std::function<void(frmDocument &)> &command);
 
@@ -113,13 +129,33 @@ private:
     void ActivateTab(int tab);
     void RebuildWindowMenu();
     void TickViewMenu();
+    void FollowSelection(frmDocument &document);
+    void FollowMacroKeys(frmDocument &document);
+    void EditMacros();
+    void ListMacros(frmDocument &document);
+    void FollowClipboard();
     void ShowCaret();
+    void EnableSelectionCommands();
     void ShowDesignBars(bool shown);
     void FollowDesign();
     void ShowToolbox(bool shown);
+    void ShowPane(QStringView command);
     void ShowNewDocumentPane(const QString &notice);
     void FillBrowserMenu();
+    void FillFontMenu();
+    void FillTidyMenu();
+    void ShowTidyScript();
+    void RunTidyPreset(const QString &name);
+    void RunTidy(const QString &script, TidyScriptPlace place);
+    QMenu *BuildStyleMenu();
+    void WrapInFont(frmDocument &page, const QString &font);
+    void ChooseBackground();
+    void EditTag(frmDocument &page);
+    void PickTable(const QPoint &place);
+    void BuildViewKeys();
     template <typename Reference> void ShowReference();
+    frmHelp &HelpWindow();
+    void OpenHelp(HelpPlace place, const QString &keyword);
     void ShowOptions();
     void TileWindows(Qt::Orientation orientation);
     void ArrangeIcons();
@@ -130,8 +166,8 @@ private:
     QWidget *m_picture4 = nullptr; // its host
     QSplitter *m_splitter = nullptr; // Image3
     Toolbox *m_toolbox = nullptr;
-    NewDocumentPane *m_newDocumentPane = nullptr;
-    QComboBox *m_filter = nullptr; // Filter
+    ToolboxPanes *m_panes = nullptr;
+    NewDocumentPane *m_newDocumentPane = nullptr; // null until it is shown
     QToolBar *m_toolbar1 = nullptr;
     QToolBar *m_noWindows = nullptr;
     AddressBar *m_addressBar = nullptr; // Picture1
@@ -147,11 +183,16 @@ private:
     QLabel *m_modifiedPanel = nullptr;
     QToolButton *m_encodingPanel = nullptr;
     QLabel *m_previewText = nullptr;
+    MacroRunner *m_macros = nullptr;
+    QPointer<frmHelp> m_help; // made when it is first asked for
+    QPointer<TidyCheck> m_tidyCheck; // goes with the pane of its report
+    QPointer<TidyScript> m_tidyScript; // while it is open
     MainMenu::Commands m_commands;
     QHash<QString, QString> m_toolTips; // by menu name, from the language file
     std::unique_ptr<MainMenu> m_menu;
     QList<QAction *> m_windowItems;
     int m_documentCounter = 0;
+    std::optional<bool> m_clipboardHoldsText; // unknown: not asked since it changed
     bool m_openWhenShown = false;
     bool m_tipWhenShown = false;
 };

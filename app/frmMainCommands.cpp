@@ -4,7 +4,7 @@
 #include "app/Form32.h"
 #include "app/NewDocumentPane.h"
 #include "app/PrintSource.h"
-#include "app/Toolbox.h"
+#include "app/ToolboxPanes.h"
 #include "app/frmAbout.h"
 #include "app/frmDocument.h"
 #include "app/frmHistory.h"
@@ -31,8 +31,6 @@ namespace brenix {
 
 namespace {
 
-    constexpr int ForcedRefresh = 50; // ms
-
     // What needs a document: items, and whole menus. The font menu's other items have nothing to do
     // without one either.
     // clang-format off
@@ -40,7 +38,7 @@ namespace {
         u"mnuFileClose", u"mnuFileSaveAs", u"mnuFileSave", u"mnuSaveAsTemplate", u"mnuFileSaveAll",
         u"mnuFilePrint", u"mnuFilePageSetup", u"mnuEdit", u"mnuInsert", u"mnuView", u"mnuWindow",
         u"mnuViewInBrowser", u"mnuSplit", u"mnuCheckLinks", u"mnuPageOverview", u"mnuEstimated", u"mnuSelectTag",
-        u"mnuTagDesigner", u"mnuStripTags", u"mnuRTF2HTML", u"mnuCompressSource", u"mnuHelpTag",
+        u"mnuTagDesigner", u"mnuList", u"mnuStripTags", u"mnuRTF2HTML", u"mnuCompressSource", u"mnuHelpTag",
     };
     // clang-format on
 
@@ -59,6 +57,12 @@ MainMenu::Commands frmMain::Commands()
     AddEditCommands(commands);
     AddViewCommands(commands);
     AddWindowCommands(commands);
+    AddInsertCommands(commands);
+    AddHelpCommands(commands);
+    AddToolboxCommands(commands);
+    AddTidyCommands(commands);
+    AddToolCommands(commands);
+    AddMacroCommands(commands);
     return commands;
 }
 
@@ -72,7 +76,7 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
                             "file menu, the toolbox will be opened and the 'New document' layer "
                             "will be visible. From "
                             "this box you can make a new document (from the lists)."_s);
-        NewDocuments().PointToKinds();
+        m_newDocumentPane->PointToKinds();
     };
     commands[u"mnuFileOpen"_s] = [this] {
         ShowNewDocumentPane(u"Brenix 2 does not open documents the standard way. If you click on "
@@ -80,7 +84,7 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
                             "menu, the toolbox will be opened and the 'New document' layer will be "
                             "visible. From this "
                             "box you can open documents (from the lists)."_s);
-        NewDocuments().PointToOpenList();
+        m_newDocumentPane->PointToOpenList();
     };
     commands[u"mnuFileClose"_s] = [this] {
         if (QMdiSubWindow *window = m_area->currentSubWindow())
@@ -147,44 +151,6 @@ void frmMain::AddEditCommands(MainMenu::Commands &commands)
           });
 }
 
-void frmMain::AddViewCommands(MainMenu::Commands &commands)
-{
-    commands[u"mnuViewToolbar"_s] = [this] {
-        const bool shown = m_menu->ActionOf(u"mnuViewToolbar"_s)->isChecked();
-        m_toolbar1->setVisible(shown);
-        ForActive([this](frmDocument &document) { ShowBarsFor(document.Status()); });
-    };
-    commands[u"mnuViewStatusBar"_s]
-        = [this] { statusBar()->setVisible(m_menu->ActionOf(u"mnuViewStatusBar"_s)->isChecked()); };
-    commands[u"mnuToolboxs"_s]
-        = [this] { ShowToolbox(m_menu->ActionOf(u"mnuToolboxs"_s)->isChecked()); };
-    commands[u"mnuTabs"_s] = [this] {
-        const bool shown = m_menu->ActionOf(u"mnuTabs"_s)->isChecked();
-        m_picture4->setVisible(shown);
-        SaveSetting(u"Settings", u"Tabs", shown ? u"1"_s : u"0"_s);
-    };
-    const std::pair<QString, QString> views[] = {{u"mnuSplitMode"_s, u"Split"_s},
-                                                 {u"mnuHtmlMode"_s, u"HTML"_s},
-                                                 {u"mnuPreviewMode"_s, u"Preview"_s}};
-    for (const auto &[name, status] : views) {
-        commands[name] = [this, status = status] {
-            ForActive([&](frmDocument &document) {
-                document.Status = status;
-                document.RefreshPreview(0);
-            });
-        };
-    }
-    commands[u"mnuDesignMode"_s]
-        = [this] { ForActive([](frmDocument &document) { document.EnterDesignView(); }); };
-    commands[u"mnuViewRefresh"_s] = [this] {
-        ForActive([](frmDocument &document) { document.RefreshPreview(ForcedRefresh); });
-    };
-    commands[u"mnuSplitH"_s]
-        = [this] { ForActive([](frmDocument &document) { document.SplitHV = u"0"_s; }); };
-    commands[u"mnuSplitV"_s]
-        = [this] { ForActive([](frmDocument &document) { document.SplitHV = u"1"_s; }); };
-}
-
 void frmMain::AddWindowCommands(MainMenu::Commands &commands)
 {
     commands[u"mnuWindowNewWindow"_s] = [this] { m_area->activateNextSubWindow(); };
@@ -231,7 +197,10 @@ void frmMain::ShowOptions()
         ForActive([](frmDocument &document) { document.Form_Activate(); });
         FillBrowserMenu();
     };
-    dialog.RecentCleared = [this] { NewDocuments().RebuildOpenList(); };
+    dialog.RecentCleared = [this] {
+        if (m_newDocumentPane)
+            m_newDocumentPane->RebuildOpenList();
+    };
     dialog.exec();
 }
 
@@ -255,53 +224,13 @@ void frmMain::FillBrowserMenu()
     }
 }
 
-// Rows one above the other, or columns side by side.
-void frmMain::TileWindows(Qt::Orientation orientation)
-{
-    QList<QMdiSubWindow *> windows = m_area->subWindowList();
-    windows.removeIf([](const QMdiSubWindow *window) { return window->isMinimized(); });
-    const int count = int(windows.size());
-    const QSize whole = m_area->viewport()->size();
-    for (int i = 0; i < count; ++i) {
-        windows[i]->showNormal();
-        if (orientation == Qt::Horizontal)
-            windows[i]->setGeometry(
-                0, whole.height() * i / count, whole.width(), whole.height() / count);
-        else
-            windows[i]->setGeometry(
-                whole.width() * i / count, 0, whole.width() / count, whole.height());
-    }
-}
-
-// Minimised windows in a row at the lower edge.
-void frmMain::ArrangeIcons()
-{
-    int left = 0;
-    for (QMdiSubWindow *window : m_area->subWindowList()) {
-        if (!window->isMinimized())
-            continue;
-        window->move(left, m_area->viewport()->height() - window->height());
-        left += window->width();
-    }
-}
-
 void frmMain::ShowNewDocumentPane(const QString &notice)
 {
-    ShowToolbox(true);
-    m_toolbox->ShowPane(&NewDocuments());
+    ShowPane(PaneCommand::NewDocument);
     if (GetNumberSetting(u"ShowOnlyOnce", u"Open", 0) != 0)
         return;
     SaveSetting(u"ShowOnlyOnce", u"Open", u"1"_s);
     MsgBox(notice + u"\n\nThis dialog will not showed again"_s, Buttons::Ok, Icon::Information);
-}
-
-void frmMain::TickViewMenu()
-{
-    const QString status = ActiveForm() ? ActiveForm()->Status() : QString();
-    m_menu->ActionOf(u"mnuSplitMode"_s)->setChecked(status == u"Split");
-    m_menu->ActionOf(u"mnuHtmlMode"_s)->setChecked(status == u"HTML");
-    m_menu->ActionOf(u"mnuPreviewMode"_s)->setChecked(status == u"Preview");
-    m_menu->ActionOf(u"mnuDesignMode"_s)->setChecked(status == u"Design");
 }
 
 void frmMain::EnableDocumentCommands(bool enabled)

@@ -1,13 +1,15 @@
-#include "app/Documents.h"
+#include "app/DroppedFiles.h"
 #include "app/NewDocumentPane.h"
 #include "app/RecentFiles.h"
 #include "app/StandardPages.h"
+#include "app/ToolboxPanes.h"
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
 #include "editor/CodeHighlight.h"
 #include "support/AuthorFile.h"
 #include "support/MessageBoxes.h"
 #include "support/Paths.h"
+#include "support/UntitledPages.h"
 
 #include <QDir>
 #include <QDropEvent>
@@ -67,7 +69,8 @@ frmDocument *frmMain::LoadNewDoc()
     connect(document, &frmDocument::ContextMenu, this, [this](const QPoint &place) {
         m_menu->MenuOf(u"mnuEdit"_s)->popup(place);
     });
-    connect(&document->Source(), &CodeHighlight::SelChange, this, &frmMain::ShowCaret);
+    FollowSelection(*document);
+    FollowMacroKeys(*document);
     QMdiSubWindow *window = m_area->addSubWindow(document);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowIcon(windowIcon());
@@ -81,10 +84,13 @@ frmDocument *frmMain::LoadNewDoc()
 
 void frmMain::OpenDoc()
 {
-    const QString path = OpenFileName({.title = u"Open"_s,
-                                       .filter = QString::fromUtf16(OpenFilter),
-                                       .name = {},
-                                       .defaultSuffix = {}});
+    OpenFrom({});
+}
+
+void frmMain::OpenFrom(const QString &folder)
+{
+    const QString path = OpenFileName(
+        {.title = u"Open"_s, .filter = QString::fromUtf16(OpenFilter), .name = folder});
     if (!path.isEmpty())
         OpenPath(path);
 }
@@ -159,7 +165,7 @@ void frmMain::DeleteTemplate(const QString &name)
     const Answer answer = MsgBox(
         u"Do you want to delete the template '"_s + name + u"'?"_s, Buttons::YesNo, Icon::Question);
     if (answer == Answer::Yes && QFile::remove(AppPath(QString(u"Templates/"_s + name))))
-        NewDocuments().RemoveTemplate(name);
+        m_newDocumentPane->RemoveTemplate(name);
 }
 
 void frmMain::SaveAsTemplate()
@@ -179,18 +185,22 @@ void frmMain::SaveAsTemplate()
                Icon::Critical);
         return;
     }
-    if (document->rtfText().SaveFile(AppPath(QString(u"Templates/"_s + name))))
-        NewDocuments().AddTemplate(name);
+    if (document->rtfText().SaveFile(AppPath(QString(u"Templates/"_s + name))) && m_newDocumentPane)
+        m_newDocumentPane->AddTemplate(name);
 }
 
 void frmMain::OpenDropped(const QMimeData &data)
 {
-    for (const QUrl &url : data.urls()) {
-        const QFileInfo file(url.toLocalFile());
-        if (!file.isFile())
+    QStringList names;
+    for (const QUrl &url : data.urls())
+        names.append(url.toLocalFile());
+    for (const QString &path : DroppedPaths(names)) {
+        if (path.endsWith(QDir::separator())) {
+            OpenFrom(path);
             continue;
+        }
         frmDocument *document = LoadNewDoc();
-        document->OpenFile(file.absoluteFilePath());
+        document->OpenFile(path);
         document->rtfText().AddUndo();
         document->Modyfied = u"0"_s;
     }
@@ -224,16 +234,6 @@ void frmMain::OnDocumentActivated()
         ->setChecked(true);
 }
 
-void frmMain::ShowCaret()
-{
-    frmDocument *active = ActiveForm();
-    const CodeHighlight *source = active ? &active->Source() : nullptr;
-    m_linePanel->setText(source ? u"Line: "_s + QString::number(source->LineIndex() + 1)
-                                : QString());
-    m_characterPanel->setText(source ? u"Character: "_s + QString::number(source->SelStart())
-                                     : QString());
-}
-
 void frmMain::RebuildTabs()
 {
     const QList<frmDocument *> documents = Documents();
@@ -246,6 +246,7 @@ void frmMain::RebuildTabs()
         m_tabStrip->setTabToolTip(i, documents[i]->Caption());
     }
     m_tabStrip->setCurrentIndex(int(documents.indexOf(ActiveForm())));
+    m_panes->Follow();
 }
 
 // Pages of the same name share a caption: the first of them is found.
@@ -283,23 +284,6 @@ void frmMain::RebuildWindowMenu()
         });
         m_windowItems.append(item);
     }
-}
-
-void frmMain::ResizeToScreen(const QString &screen)
-{
-    QMdiSubWindow *window = m_area->currentSubWindow();
-    frmDocument *document = ActiveForm();
-    if (!window || !document)
-        return;
-    if (!screen.contains(u'x')) {
-        window->showMaximized();
-        return;
-    }
-    const int width = screen.section(u'x', 0, 0).toInt();
-    const int height = screen.section(u'x', 1, 1).toInt();
-    window->showNormal();
-    const QSize frame = window->size() - window->contentsRect().size();
-    window->resize(QSize(width, height + document->ViewBarHeight()) + frame);
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event)

@@ -1,21 +1,22 @@
-#include "app/Documents.h"
+#include "app/CommandLine.h"
 #include "app/LanguageFile.h"
-#include "app/NewDocumentPane.h"
 #include "app/RecentFiles.h"
 #include "app/Toolbox.h"
+#include "app/ToolboxPanes.h"
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
 #include "app/frmSplash.h"
 #include "app/frmTip.h"
+#include "checks/TidyScript.h"
 #include "editor/LargeFile.h"
 #include "support/AuthorFile.h"
 #include "support/Paths.h"
 #include "support/SettingsStore.h"
 #include "support/SourceView.h"
 #include "support/TextCodec.h"
+#include "support/UntitledPages.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QDir>
 #include <QGuiApplication>
 #include <QMdiArea>
@@ -35,15 +36,6 @@ namespace {
     // So that a damaged setting leaves something to grasp, with the toolbox in it.
     constexpr QSize SmallestWindow(340, 300);
     constexpr int DefaultLargeFile = 20000;
-
-    // clang-format off
-    constexpr const char16_t *Dialects[] = {
-        u"All HTML", u"HTML 2.0", u"HTML 3.2", u"HTML 4.0",
-        u"Netscape 1.0", u"Netscape 1.1", u"Netscape 2.0", u"Netscape 3.0", u"Netscape 4.0",
-        u"Internet Explorer 1.0", u"Internet Explorer 2.0", u"Internet Explorer 3.0", u"Internet Explorer 4.0",
-        u"Cold Fusion", u"Web TV",
-    };
-    // clang-format on
 
     std::optional<int> PixelSetting(QStringView key, int defaultTwips)
     {
@@ -108,6 +100,7 @@ void frmMain::ReadLanguageFile()
     ReadLanguage(DecodePage(file.bytes, {}).text,
                  [this](const QString &name, const QString &caption) {
                      m_menu->SetCaption(name, caption);
+                     m_toolbox->SetCaption(name, caption);
                      m_toolTips.insert(name, QString(caption).remove(u'&').remove(u"..."_s));
                  });
 }
@@ -123,9 +116,6 @@ void frmMain::CheckDirectories()
 {
     for (const QStringView name : {u"Macro", u"Templates", u"Temp"})
         QDir().mkpath(AppPath(name));
-    for (const char16_t *dialect : Dialects)
-        m_filter->addItem(QString::fromUtf16(dialect));
-    m_filter->setCurrentIndex(0);
 }
 
 void frmMain::ReadLargeFile()
@@ -223,8 +213,11 @@ void frmMain::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     ForActive([](frmDocument &document) { document.ShowTitle(); });
+    // What the first picture of the window does not need.
     QTimer::singleShot(0, this, [this] {
-        NewDocuments();
+        setWindowIcon(QIcon(AppPath(u"brenix.ico")));
+        for (QMdiSubWindow *window : m_area->subWindowList())
+            window->setWindowIcon(windowIcon());
         if (std::exchange(m_openWhenShown, false))
             OpenDoc();
         if (std::exchange(m_tipWhenShown, false))
@@ -235,6 +228,10 @@ void frmMain::showEvent(QShowEvent *event)
 // Every page is asked for before the first one goes: Cancel keeps them all.
 void frmMain::closeEvent(QCloseEvent *event)
 {
+    if (m_tidyScript && !m_tidyScript->close()) {
+        event->ignore();
+        return;
+    }
     for (frmDocument *document : Documents()) {
         m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(document->parentWidget()));
         if (!document->AgreeToClose()) {
@@ -263,6 +260,7 @@ void frmMain::StoreWindow()
     SaveSetting(u"Settings", u"ToolBoxView", m_toolbox->isHidden() ? u"False"_s : u"True"_s);
     if (!m_toolbox->isHidden())
         SaveNumber(u"ToolBoxWidth", m_toolbox->width() * TwipsPerPixel);
+    SaveNumber(u"LiveSearch", m_panes->IsLiveSearch() ? 1 : 0);
 }
 
 } // namespace brenix

@@ -1,4 +1,4 @@
-#include "app/Documents.h"
+#include "app/CommandLine.h"
 #include "app/frmMain.h"
 #include "app/frmSplash.h"
 #include "support/Paths.h"

@@ -1,6 +1,6 @@
 #include "bench/Program.h"
 
-#include "app/Documents.h"
+#include "app/CommandLine.h"
 #include "app/frmDocument.h"
 #include "app/frmSplash.h"
 #include "editor/LargeFile.h"

@@ -8,6 +8,9 @@ void RegisterColouring();
 void RegisterSnapshots();
 void RegisterKeys();
 void RegisterOpening();
+void RegisterTransforms();
+void RegisterReplacing();
+void RegisterChecks();
 } // namespace bench
 
 int main(int argc, char **argv)
@@ -25,6 +28,9 @@ int main(int argc, char **argv)
     bench::RegisterSnapshots();
     bench::RegisterKeys();
     bench::RegisterOpening();
+    bench::RegisterTransforms();
+    bench::RegisterReplacing();
+    bench::RegisterChecks();
     bench::Table table;
     benchmark::RunSpecifiedBenchmarks(&table);
     return 0;

@@ -23,13 +23,79 @@ namespace {
          u"Writes the page as a coloured stream.",
          AddHighlightOptions,
          RunHighlight},
+        {u"check", u"[FILE]", u"Reports errors of the page.", AddCheckOptions, RunCheck},
+        {u"compress", u"[FILE]", u"Makes the page smaller.", AddCompressOptions, RunCompress},
+        {u"format",
+         u"FORMAT [FILE]",
+         u"Lays out the markup anew.",
+         nullptr,
+         RunFormat,
+         u"\"hierarchical\", \"compact\" or \"simple\", and the page; \"-\" or nothing for "
+         u"standard "
+         u"input."},
+        {u"strip", u"[FILE]", u"Writes the page without its tags.", nullptr, RunStrip},
+        {u"keywords",
+         u"[FILE]",
+         u"Lists words of the page that may serve as keywords, one a line.",
+         nullptr,
+         RunKeywords},
+        {u"tags",
+         u"[DIALECT]",
+         u"Lists the tags of a dialect, one a line.",
+         nullptr,
+         RunTags,
+         u"The title of the dialect (\"HTML 5\", \"Web TV\" ...); nothing for \"All HTML\"."},
+        {u"attributes",
+         u"TAG",
+         u"Lists the attributes of a tag, one a line.",
+         AddAttributesOptions,
+         RunAttributes,
+         u"The name of the tag, in any case and without brackets."},
+        {u"values",
+         u"ATTRIBUTE",
+         u"Lists the values of an attribute, one a line.",
+         AddValuesOptions,
+         RunValues,
+         u"The name of the attribute, in any case. There are no fonts here for \"face\"."},
+        {u"parse",
+         u"[FILE]",
+         u"Lists what the tag reader reports, one event a line as a JSON array.",
+         nullptr,
+         RunParse},
+        {u"endtag",
+         u"[FILE]",
+         u"Writes the end tag of the element that is open at a caret.",
+         AddEndTagOptions,
+         RunEndTag},
+        {u"relpath",
+         u"TARGET BASE",
+         u"Writes the path of a link to a file, as seen from a folder.",
+         nullptr,
+         RunRelPath,
+         u"The paths of the file and of the folder, both with \"\\\" or both with \"/\"."},
+        {u"links",
+         u"[FILE]",
+         u"Lists the links of a page, each with its status and a tab before it.",
+         AddLinksOptions,
+         RunLinks},
+        {u"estimate",
+         u"[FILE]",
+         u"Lists the files that a page depends on, with their sizes.",
+         AddEstimateOptions,
+         RunEstimate},
+        {u"replace",
+         u"FIND REPLACEMENT",
+         u"Replaces a text in all files of a folder, and reports each changed line.",
+         AddReplaceOptions,
+         RunReplace,
+         u"The text to find, in any case, and what takes its place."},
     };
 
     const QString UsageHead
-        = u"usage: brenix-cli VERB [OPTION...] [FILE]\n"
+        = u"usage: brenix-cli VERB [OPTION...] [ARGUMENT...]\n"
           "\n"
-          "The logic of the Brenix HTML editor as filters. FILE, or standard input, is decoded as\n"
-          "the editor does; the result is written to standard output as UTF-8.\n"
+          "The logic of the Brenix HTML editor as filters. A verb on a page reads FILE, or\n"
+          "standard input, decoded as the editor does. Output is UTF-8.\n"
           "\n"_s;
     const QString UsageTail
         = u"\n"
@@ -45,24 +111,39 @@ namespace {
         return usage + UsageTail;
     }
 
+    bool TakesThatMany(const Verb &verb, qsizetype count)
+    {
+        const QString arguments = QString::fromUtf16(verb.arguments);
+        const qsizetype most = arguments.split(u' ').size();
+        return count <= most && count >= most - arguments.count(u'[');
+    }
+
+    // The parser's own names the program by its path, without the verb.
+    QString HelpOf(const QCommandLineParser &parser, const QString &program)
+    {
+        const QString help = parser.helpText();
+        return u"Usage: "_s + program + u' ' + help.sliced(help.indexOf(u'['));
+    }
+
     ExitStatus RunVerb(const Verb &verb, const QStringList &arguments)
     {
         QCommandLineParser parser;
         parser.setApplicationDescription(QString::fromUtf16(verb.summary));
         parser.addOption({{u"h"_s, u"help"_s}, u"Shows this help."_s});
-        parser.addPositionalArgument(u"FILE"_s,
-                                     u"The page; \"-\" or nothing for standard input."_s,
-                                     QString::fromUtf16(verb.arguments));
-        verb.addOptions(parser);
+        const QString syntax = QString::fromUtf16(verb.arguments);
+        parser.addPositionalArgument(
+            QString(syntax).remove(u'[').remove(u']'), QString::fromUtf16(verb.meaning), syntax);
+        if (verb.addOptions)
+            verb.addOptions(parser);
         const QString program = u"brenix-cli "_s + QString::fromUtf16(verb.name);
         if (!parser.parse(QStringList(program) + arguments)) {
             Complain(parser.errorText());
             return Failed;
         }
         if (parser.isSet(u"help"_s))
-            return WriteOutput(parser.helpText()) ? Done : Failed;
-        if (parser.positionalArguments().size() > 1) {
-            Complain(u"one FILE at a time"_s);
+            return WriteOutput(HelpOf(parser, program)) ? Done : Failed;
+        if (!TakesThatMany(verb, parser.positionalArguments().size())) {
+            Complain(u"wrong number of arguments; usage: %1 [OPTION...] %2"_s.arg(program, syntax));
             return Failed;
         }
         return verb.run(parser);
@@ -88,9 +169,9 @@ namespace {
 
 } // namespace
 
-std::optional<QString> ReadInput(const QCommandLineParser &parser)
+std::optional<QString> ReadInput(const QCommandLineParser &parser, qsizetype argument)
 {
-    const QString name = parser.positionalArguments().value(0, u"-"_s);
+    const QString name = parser.positionalArguments().value(argument, u"-"_s);
     FileContent file;
     if (name == u"-") {
         QFile input;

@@ -40,3 +40,10 @@ function(brenix_target target)
         target_link_options(${target} PUBLIC -fsanitize=address)
     endif()
 endfunction()
+
+# A part of the program that is loaded when it is first needed.
+function(brenix_module target)
+    brenix_target(${target})
+    set_target_properties(${target} PROPERTIES PREFIX "")
+    install(TARGETS ${target} LIBRARY DESTINATION lib/brenix)
+endfunction()

@@ -137,6 +137,17 @@ int CodeHighlight::TextLength() const
     return m_mirror->Rope().TextLength();
 }
 
+QString CodeHighlight::TextAt(int start, int length) const
+{
+    const int first = std::clamp(start, 0, TextLength());
+    const int past = first + std::clamp(length, 0, TextLength() - first);
+    const TextRope &rope = m_mirror->Rope();
+    const int from = rope.FromTextPosition(first);
+    // One unit more, since `past` may be between the two units of a line end.
+    const QString text = TextOf(rope.Mid(from, rope.FromTextPosition(past) + 1 - from));
+    return text.mid(first - rope.ToTextPosition(from), past - first);
+}
+
 int CodeHighlight::SelStart() const
 {
     return m_mirror->Rope().ToTextPosition(textCursor().selectionStart());

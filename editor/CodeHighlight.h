@@ -18,8 +18,9 @@ class Gutter;
 /// undo history of its own. Positions count UTF-16 units from 0, a line end as two; lines count
 /// from 0. See SourceView for the text operations.
 ///
-/// A line is coloured anew when a delimiter is typed on it and when the caret leaves it; the page
-/// as a whole when it is loaded, assigned, or given another language.
+/// A line is coloured anew when a delimiter is typed on it, when the handler of a key has written
+/// into it, and when the caret leaves it; the page as a whole when it is loaded, assigned, or given
+/// another language.
 class CodeHighlight : public QPlainTextEdit, public SourceView
 {
     Q_OBJECT
@@ -30,6 +31,9 @@ public:
     QString Text() const override;
     void SetText(const QString &text) override;
     int TextLength() const override;
+    QString TextAt(int start, int length) const override;
+    int LineIndex() const override;
+    void SetLineIndex(int line) override;
     int SelStart() const override;
     void SetSelStart(int position) override;
     int SelLength() const override;
@@ -88,9 +92,6 @@ public:
     /// Prints the text, or its selection where the printer is set to that, with its colours.
     void SelPrint(QPagedPaintDevice *printer);
 
-    int LineIndex() const;
-    /// To the line's start; for a line that does not exist to position 1.
-    void SetLineIndex(int line);
     /// The text of the caret's line, whatever `line` is.
     QString Line(int line) const;
     /// -1 for a line that does not exist.
@@ -156,6 +157,7 @@ private:
     bool MoveToLineEdge(const QKeyEvent &event, int keyCode);
     bool HandleDeletion(QKeyEvent *event, int keyCode);
     bool EnterCharacter(QKeyEvent *event, int keyCode, int keyAscii, bool changedByHost);
+    void AfterHandledKey();
     void MoveOffSoftBreak();
     void RepaintLine(int line);
     void NormaliseLine(int line);

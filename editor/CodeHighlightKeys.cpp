@@ -106,8 +106,10 @@ void CodeHighlight::keyPressEvent(QKeyEvent *event)
     int shift = ShiftOf(event->modifiers());
     const int pressed = keyCode; // what the key is, whatever a handler makes of it
     emit KeyDown(keyCode, shift);
-    if (keyCode == 0 && pressed != 0)
+    if (keyCode == 0 && pressed != 0) {
+        AfterHandledKey();
         return;
+    }
     // The box would enter the letter of an access key that no menu has taken.
     if (event->modifiers().testFlag(Qt::AltModifier) && IsShortcut(*event)
         && !event->text().isEmpty()) {
@@ -134,14 +136,27 @@ void CodeHighlight::keyPressEvent(QKeyEvent *event)
         } else {
             m_timer2.start();
         }
-        if (keyAscii == 0)
+        if (keyAscii == 0) {
+            AfterHandledKey();
             return;
+        }
     }
 
     if (!MoveToLineEdge(*event, pressed) && !HandleDeletion(event, pressed)
         && !EnterCharacter(event, pressed, keyAscii, keyAscii != entered))
         QPlainTextEdit::keyPressEvent(event);
     AfterEdit(Caret(), 0);
+    OnSelChange();
+}
+
+// What a handler wrote was coloured by itself: it belongs to its line.
+void CodeHighlight::AfterHandledKey()
+{
+    if (m_highlightCode == 1 && m_editedLine == LineIndex()) {
+        const bool repaintEnabled = std::exchange(m_repaintEnabled, false);
+        RepaintLine(m_editedLine);
+        m_repaintEnabled = repaintEnabled;
+    }
     OnSelChange();
 }
 

@@ -2,6 +2,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+
+#include <memory>
 
 namespace brenix {
 
@@ -20,6 +23,32 @@ FileContent ReadAuthorFile(const QString &path);
 /// either the old or the new content is whole. Returns the error text, empty on success.
 /// Permissions, owner, hard links and symbolic links of an existing file stay as they were.
 QString WriteAuthorFile(const QString &path, const QByteArray &bytes);
+
+/// The same promise for many files. The new content stands in files beside the old ones until
+/// `PutInPlace`; it is dropped when the batch goes before.
+class AuthorFileBatch
+{
+public:
+    enum class Purpose {
+        Save, ///< what is in place is on the disk as well
+        /// The files beside are called as the file and ".tmp", where there is no such file. Waits
+        /// for the disk only where the file system does not by itself write the content before the
+        /// rename, so that a power cut right afterwards may bring back the old content.
+        ReplaceMany,
+    };
+    explicit AuthorFileBatch(Purpose purpose);
+    ~AuthorFileBatch();
+
+    /// A file that cannot be replaced by a rename (see `WriteAuthorFile`) is written at once.
+    void Add(const QString &path, const QByteArray &bytes);
+    /// The error text of each file in the order of `Add`, empty on success. The batch is then
+    /// empty.
+    QStringList PutInPlace();
+
+private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
 
 /// Finishes in-place writes that an earlier run was interrupted in. Called once at start.
 void FinishInterruptedWrites();

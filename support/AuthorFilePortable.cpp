@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <utility>
+
 namespace brenix {
 
 using namespace Qt::StringLiterals;
@@ -44,6 +46,28 @@ QString WriteAuthorFile(const QString &path, const QByteArray &bytes)
         return error;
     }
     return file.commit() ? QString() : file.errorString();
+}
+
+struct AuthorFileBatch::State
+{
+    QStringList errors;
+};
+
+AuthorFileBatch::AuthorFileBatch(Purpose)
+    : m_state(new State)
+{
+}
+
+AuthorFileBatch::~AuthorFileBatch() = default;
+
+void AuthorFileBatch::Add(const QString &path, const QByteArray &bytes)
+{
+    m_state->errors += WriteAuthorFile(path, bytes);
+}
+
+QStringList AuthorFileBatch::PutInPlace()
+{
+    return std::exchange(m_state->errors, {});
 }
 
 void FinishInterruptedWrites()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -7,6 +8,14 @@
 class QWidget;
 
 namespace brenix {
+
+/// An element of the page that is shown.
+struct PageElement
+{
+    QString tagName; ///< as the page's document has it, "TD"
+    int parent = -1; ///< the number of the element that it stands in; -1 for none
+    QString text; ///< of an element without a tag name
+};
 
 /// The preview of a document (`WebBrowser1`) as the program uses it. Nothing here waits for the
 /// page.
@@ -26,6 +35,9 @@ public:
     virtual void Refresh() = 0;
     virtual void GoBack() = 0;
     virtual void GoForward() = 0;
+    /// Hands over the elements of the page that is shown, in document order and numbered from 0;
+    /// later, and never when the page does not answer.
+    virtual void AskElements(std::function<void(const QList<PageElement> &elements)> got) = 0;
     /// While true, nothing is fetched from the network.
     virtual void SetOffline(bool offline) = 0;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Observable.h"
+#include "support/Paths.h"
 
 #include <QString>
 
@@ -44,6 +45,10 @@ public:
     /// Source caret, kept while the design view is shown.
     int Sted = 0;
 
+    /// The folder of the page's file, which the links of the page start from: the path of the
+    /// Project pane. With the separator at its end.
+    QString Folder() const { return FolderOf(Caption()); }
+
     virtual SourceView &rtfText() = 0;
     /// The preview; null while the web engine is not up or not there.
     virtual BrowserView *WebBrowser1() = 0;
@@ -78,6 +83,8 @@ public:
     virtual void SetAddress(const QString &address) = 0;
     /// The preview shows the page itself, not what a server makes of it.
     virtual bool IsLocalMode() const = 0;
+    /// Title of the dialect whose tags are offered.
+    virtual QString Dialect() const = 0;
 };
 
 } // namespace brenix

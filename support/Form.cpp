@@ -229,7 +229,12 @@ QPushButton *Form::ButtonBeside(const char16_t *name,
                                 std::function<void()> clicked)
 {
     QPushButton *button = NewButton(name, caption, std::move(clicked));
-    m_grid->addWidget(button, m_grid->rowCount() - 1, ButtonColumn);
+    const int row = m_grid->rowCount() - 1;
+    QLayoutItem *cell = m_grid->itemAtPosition(row, ButtonColumn);
+    auto *buttons = cell ? static_cast<QHBoxLayout *>(cell->layout()) : new QHBoxLayout;
+    if (!cell)
+        m_grid->addLayout(buttons, row, ButtonColumn);
+    buttons->addWidget(button);
     return button;
 }
 

@@ -66,7 +66,7 @@ public:
     QPushButton *Button(const char16_t *name,
                         const QString &caption,
                         std::function<void()> clicked);
-    /// Beside the control of the last row.
+    /// Beside the control of the last row, behind the buttons that it has there.
     QPushButton *ButtonBeside(const char16_t *name,
                               const QString &caption,
                               std::function<void()> clicked);

@@ -135,8 +135,10 @@ namespace {
 
     void ProposeName(QFileDialog *chooser, const QString &name)
     {
+        if (name.endsWith(QDir::separator()))
+            chooser->setDirectory(name);
         // "*.html" is a pattern, which the dialog would take for the name to use.
-        if (!name.isEmpty() && !name.contains(u'*') && !name.contains(u'?'))
+        else if (!name.isEmpty() && !name.contains(u'*') && !name.contains(u'?'))
             chooser->selectFile(QDir::fromNativeSeparators(name));
     }
 

@@ -29,14 +29,14 @@ int ChooseBox(const QString &text, const QStringList &captions, Icon icon);
 QString InputBox(const QString &prompt, const QString &proposal);
 
 /// A file dialog. `filter` has the form "caption|patterns|caption|patterns", patterns separated by
-/// ";"; empty pairs are skipped. `name` is the proposed name. Returns the chosen path, empty when
-/// cancelled.
+/// ";"; empty pairs are skipped. `name` is the proposed name, or the folder to start in with a
+/// separator at its end. Returns the chosen path, empty when cancelled.
 struct FileDialog
 {
-    QString title;
-    QString filter;
-    QString name;
-    QString defaultSuffix; ///< without a point; added to a name that has none
+    QString title = {};
+    QString filter = {};
+    QString name = {};
+    QString defaultSuffix = {}; ///< without a point; added to a name that has none
 };
 QString OpenFileName(const FileDialog &dialog);
 QString SaveFileName(const FileDialog &dialog); ///< asks before an existing file is overwritten

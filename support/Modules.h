@@ -5,8 +5,8 @@
 
 namespace brenix {
 
-/// The parts of the program that bring a large library along are modules, loaded when they are first
-/// needed: linked to the program, their libraries would hold up every start.
+/// The parts of the program that bring a large library along are modules, loaded when they are
+/// first needed: linked to the program, their libraries would hold up every start.
 struct LoadedModule
 {
     QObject *root = nullptr; ///< lives as long as the program; null when the module is not there

@@ -14,8 +14,8 @@ class PrintModule
 public:
     virtual ~PrintModule() = default;
     virtual void PageSetup(QWidget *window) = 0;
-    /// Asks how to print, and offers to print the selection where there is one. Null when the author
-    /// gives up.
+    /// Asks how to print, and offers to print the selection where there is one. Null when the
+    /// author gives up.
     virtual QPagedPaintDevice *AskPrinter(QWidget *window, bool hasSelection) = 0;
 };
 

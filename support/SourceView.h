@@ -18,6 +18,13 @@ public:
     /// ends included.
     virtual void SetText(const QString &text) = 0;
     virtual int TextLength() const = 0;
+    /// At most `length` units of the text from `start` on, cut off at both ends of the text; costs
+    /// what it gives, whatever the size of the page.
+    virtual QString TextAt(int start, int length) const = 0;
+    /// The number of the caret's line, from 0.
+    virtual int LineIndex() const = 0;
+    /// Moves the caret to the start of a line; for one that does not exist to position 1.
+    virtual void SetLineIndex(int line) = 0;
 
     virtual int SelStart() const = 0;
     /// Moves the caret and clears the selection; a position outside the text is brought to its

@@ -10,8 +10,14 @@
 #include <system_error>
 #include <unistd.h>
 #include <utility>
+#ifdef Q_OS_LINUX
+#include <linux/magic.h>
+#include <sys/vfs.h>
+#endif
 
 namespace brenix {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -74,6 +80,11 @@ QByteArray SystemFolder(const QByteArray &path)
     if (slash < 0)
         return ".";
     return slash == 0 ? QByteArray("/") : path.left(slash);
+}
+
+QString NotRegularFile(mode_t mode)
+{
+    return S_ISDIR(mode) ? SystemError(EISDIR) : u"Not a regular file"_s;
 }
 
 FileDescriptor CreateUniqueFile(const QByteArray &start,
@@ -142,6 +153,29 @@ QString Truncate(const FileDescriptor &file, qsizetype size)
 {
     const int result = Repeat([&] { return ::ftruncate(file.Number(), size); });
     return result < 0 ? SystemError(errno) : QString();
+}
+
+void BeginSync(const FileDescriptor &file)
+{
+#ifdef Q_OS_LINUX
+    ::sync_file_range(file.Number(), 0, 0, SYNC_FILE_RANGE_WRITE);
+#else
+    Q_UNUSED(file)
+#endif
+}
+
+bool WritesBeforeRename(const FileDescriptor &file)
+{
+#ifdef Q_OS_LINUX
+    // What their makers promise programs that rename without waiting; others promise nothing.
+    struct statfs status = {};
+    return ::fstatfs(file.Number(), &status) == 0
+        && (status.f_type == EXT4_SUPER_MAGIC || status.f_type == BTRFS_SUPER_MAGIC
+            || status.f_type == TMPFS_MAGIC);
+#else
+    Q_UNUSED(file)
+    return false;
+#endif
 }
 
 QString Sync(const FileDescriptor &file)

@@ -43,6 +43,8 @@ private:
 QByteArray SystemName(const QString &path);
 /// "/x/page.html" gives "/x", "page.html" gives "." and "/page.html" gives "/". Only "/" separates.
 QByteArray SystemFolder(const QByteArray &path);
+/// The words for what is no regular file.
+QString NotRegularFile(mode_t mode);
 
 /// Creates a file that was not there, `start` and eight random digits and `end`; `path` gets its
 /// name.
@@ -56,6 +58,11 @@ QString ReadWhole(const FileDescriptor &file, QByteArray *bytes);
 /// Writes from the start; what the file holds behind `bytes` stays.
 QString WriteFromStart(const FileDescriptor &file, QByteArrayView bytes);
 QString Truncate(const FileDescriptor &file, qsizetype size);
+/// Lets the disk begin with what was written, without waiting; for files that are synced together.
+void BeginSync(const FileDescriptor &file);
+/// Whether the file system of a file has the content on the disk before a rename over another file,
+/// without being told to wait.
+bool WritesBeforeRename(const FileDescriptor &file);
 /// Waits for the disk. A file system that knows no such thing counts as success.
 QString Sync(const FileDescriptor &file);
 /// True when the file carries an access list or other attributes beside its mode.

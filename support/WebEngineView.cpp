@@ -9,6 +9,7 @@
 #include <QWebEngineHistory>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
 
 #include <chrono>
 #include <utility>
@@ -25,6 +26,23 @@ namespace {
     constexpr int restartLimit = 2;
     // What the engine reports before the renderer has begun to read the page.
     constexpr int progressBeforePage = 10;
+
+    // A flat list of names and numbers: nested ones would end where the page is nested too deep. Of
+    // a page without end the first part is enough to look at.
+    const QString elementsScript = uR"((() => {
+        const all = Array.from(document.getElementsByTagName('*')).slice(0, 50000);
+        const numbers = new Map(all.map((element, number) => [element, number]));
+        return all.flatMap(element => [element.tagName, numbers.get(element.parentElement) ?? -1]);
+    })())"_s;
+
+    QList<PageElement> ElementsOf(const QVariantList &flat)
+    {
+        QList<PageElement> elements;
+        elements.reserve(flat.size() / 2);
+        for (qsizetype i = 0; i + 1 < flat.size(); i += 2)
+            elements += {flat[i].toString(), flat[i + 1].toInt(), {}};
+        return elements;
+    }
 
     QUrl WithoutFragment(const QUrl &url)
     {
@@ -88,6 +106,14 @@ void WebEngineView::GoForward()
 {
     m_page->AllowBoxes();
     forward();
+}
+
+void WebEngineView::AskElements(std::function<void(const QList<PageElement> &)> got)
+{
+    // In a world of its own, where no script of the page has changed what the names mean.
+    m_page->runJavaScript(elementsScript,
+                          QWebEngineScript::ApplicationWorld,
+                          [got](const QVariant &answer) { got(ElementsOf(answer.toList())); });
 }
 
 void WebEngineView::SetOffline(bool offline)

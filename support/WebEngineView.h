@@ -32,6 +32,7 @@ public:
     void Refresh() override;
     void GoBack() override;
     void GoForward() override;
+    void AskElements(std::function<void(const QList<PageElement> &elements)> got) override;
     void SetOffline(bool offline) override;
 
 protected:

@@ -9,10 +9,8 @@ add_library(brenix-web MODULE
     WebEngineModule.cpp
     WebEngineView.cpp
 )
-brenix_target(brenix-web)
+brenix_module(brenix-web)
 qt_add_resources(brenix-web design PREFIX /
     FILES design.js designEdit.js designHistory.js designMarks.js designTables.js
 )
 target_link_libraries(brenix-web PRIVATE brenix-logic Qt6::WebEngineWidgets)
-set_target_properties(brenix-web PROPERTIES PREFIX "")
-install(TARGETS brenix-web LIBRARY DESTINATION lib/brenix)

@@ -1,10 +1,10 @@
 #include "support/WebModule.h"
 
+#include "support/Modules.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QOpenGLContext>
-#include <QPluginLoader>
 
 #include <utility>
 
@@ -21,12 +21,6 @@ namespace {
 
     constexpr char quickBackend[] = "QT_QUICK_BACKEND";
 
-    struct LoadedModule
-    {
-        WebModule *module = nullptr;
-        QString error;
-    };
-
     bool HasGraphicsCard()
     {
 #ifdef Q_OS_LINUX
@@ -34,20 +28,6 @@ namespace {
 #else
         return true;
 #endif
-    }
-
-    QString ModuleFile()
-    {
-#if defined(Q_OS_WIN)
-        const QString name = u"brenix-web.dll"_s;
-#else
-        const QString name = u"brenix-web.so"_s;
-#endif
-        const QString programFolder = QCoreApplication::applicationDirPath();
-        for (const QString &folder : {u"/"_s, u"/../lib/brenix/"_s})
-            if (QFile::exists(programFolder + folder + name))
-                return programFolder + folder + name;
-        return {};
     }
 
     // The engine crashes without a context to share. Qt's own switch for it must be set before the
@@ -69,24 +49,14 @@ namespace {
         });
     }
 
-    LoadedModule Load()
-    {
-        const QString file = ModuleFile();
-        if (file.isEmpty())
-            return {nullptr, u"The web engine module (brenix-web) is not installed."_s};
-        ShareGraphicsContext();
-        QPluginLoader loader(file);
-        auto *module = qobject_cast<WebModule *>(loader.instance());
-        if (module)
-            return {module, {}};
-        return {nullptr,
-                loader.isLoaded() ? u"%1 is not a web engine module."_s.arg(file)
-                                  : loader.errorString()};
-    }
-
     const LoadedModule &TheModule()
     {
-        static const LoadedModule loaded = Load();
+        static const LoadedModule loaded = [] {
+            const QString name = u"brenix-web"_s;
+            if (!ModuleFile(name).isEmpty())
+                ShareGraphicsContext();
+            return LoadModule(name);
+        }();
         return loaded;
     }
 
@@ -94,7 +64,7 @@ namespace {
 
 WebModule *LoadWebModule()
 {
-    return TheModule().module;
+    return qobject_cast<WebModule *>(TheModule().root);
 }
 
 QString WebModuleError()

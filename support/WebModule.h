@@ -20,8 +20,7 @@ public:
 };
 
 /// The module, loaded at the first call; null when it is not installed or cannot be loaded, and
-/// `WebModuleError` then says why. Looked for beside the program, then in the library directory of
-/// the installation.
+/// `WebModuleError` then says why.
 WebModule *LoadWebModule();
 QString WebModuleError();
 

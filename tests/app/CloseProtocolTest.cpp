@@ -1,7 +1,7 @@
 #include "app/CloseProtocol.h"
 
-#include "app/Documents.h"
 #include "support/PreviewCopies.h"
+#include "support/UntitledPages.h"
 #include "tests/support/FreshHome.h"
 #include "tests/support/MemoryDocument.h"
 #include "tests/support/ScriptedBoxes.h"

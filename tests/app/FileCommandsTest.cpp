@@ -1,6 +1,7 @@
 #include "app/RecentFiles.h"
 #include "app/StandardPages.h"
 #include "support/Paths.h"
+#include "support/UntitledPages.h"
 #include "tests/app/MainWindowFixture.h"
 
 #include <QDropEvent>
@@ -286,14 +287,17 @@ TEST_F(FileCommands, DroppedFilesAreOpened)
     const QString a = Write(u"a.html"_s, "a");
     const QString b = Write(u"b & c.html"_s, "b");
     QDir(folder.path()).mkdir(u"inner"_s);
+    const QString link = folder.filePath(u"page.LNK"_s);
+    ASSERT_TRUE(QFile::link(b, link));
     const auto url = [](const QString &path) { return QUrl::fromLocalFile(path); };
     Start();
     Drop({url(a),
           url(folder.filePath(u"inner"_s)),
           url(folder.filePath(u"gone.html"_s)),
           QUrl(u"http://x/y.html"_s),
-          url(b)});
+          url(link)});
     EXPECT_THAT(Captions(), ElementsAre(a, b));
+    EXPECT_EQ(boxes.proposed, folder.filePath(u"inner/"_s)) << "a folder asks for a file of it";
     for (const frmDocument *document : Documents())
         EXPECT_EQ(document->Modyfied(), u"0"_s);
     EXPECT_EQ(RecentFile(1), QString()) << "dropping leaves the recent list alone";

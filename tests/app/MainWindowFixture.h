@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Documents.h"
+#include "app/CommandLine.h"
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
 #include "app/frmSplash.h"

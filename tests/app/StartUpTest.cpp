@@ -1,15 +1,17 @@
-#include "app/Documents.h"
 #include "app/RecentFiles.h"
 #include "app/StandardPages.h"
 #include "app/frmTip.h"
 #include "editor/LargeFile.h"
+#include "support/AuthorFile.h"
 #include "support/Paths.h"
+#include "support/UntitledPages.h"
 #include "tests/app/MainWindowFixture.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 
 using namespace brenix;
@@ -110,8 +112,8 @@ TEST_F(StartUp, StoresAndFills)
         QString first;
         QString last;
     };
-    const Box boxesExpected[] = {{u"Filter"_s, 15, u"All HTML"_s, u"Web TV"_s},
-                                 {u"Combo1"_s, 9, u"Fit Screen"_s, u"1280x1024"_s}};
+    EXPECT_EQ(window->Dialect(), u"All HTML"_s);
+    const Box boxesExpected[] = {{u"Combo1"_s, 9, u"Fit Screen"_s, u"1280x1024"_s}};
     for (const Box &expected : boxesExpected) {
         const auto &box = Find<QComboBox>(expected.name);
         EXPECT_EQ(box.count(), expected.count) << expected.name.toStdString();
@@ -275,6 +277,42 @@ TEST_F(StartUp, WindowComesBack)
         EXPECT_EQ(window->pos() + QPoint(2, 2),
                   QPoint(qMax(2, row.expected.left()), qMax(2, row.expected.top())));
         EXPECT_EQ(window->size(), row.expected.size().expandedTo(window->minimumSizeHint()));
+        Stop();
+    }
+}
+
+// Captions of the language file, by line; what it lacks stays as it is.
+TEST_F(StartUp, DamagedFilesLeaveAWindow)
+{
+    QByteArray lines;
+    for (int line = 1; line <= 87; ++line)
+        lines += "Line " + QByteArray::number(line) + "\n";
+    struct Case
+    {
+        const char *row;
+        QByteArray language;
+        QByteArray icon;
+        QString first;
+        QString last;
+    };
+    const Case cases[] = {
+        {"one line", "Datei\n", {}, u"Datei"_s, u"&About "_s},
+        {"a line short", lines, "not an icon", u"Line 1"_s, u"&About "_s},
+        {"many lines", lines.repeated(115), "\0\0\1\0\xFF\xFF", u"Line 1"_s, u"Line 1"_s},
+        {"binary", QByteArray("\0\xFF\1\"\n", 5).repeated(999), {}, {}, {}},
+    };
+    for (const Case &row : cases) {
+        SCOPED_TRACE(row.row);
+        ASSERT_EQ(WriteAuthorFile(AppPath(u"language.lng"), row.language), QString());
+        QDir().mkpath(AppPath(u"Skins/Torn"));
+        ASSERT_EQ(WriteAuthorFile(AppPath(u"Skins/Torn/New.ico"), row.icon), QString());
+        Set(u"Settings/Skin", u"Torn");
+        Start();
+        EXPECT_FALSE(window->grab().isNull());
+        if (!row.first.isEmpty()) {
+            EXPECT_EQ(Find<QMenu>(u"mnuFile"_s).title(), row.first);
+            EXPECT_EQ(Find<QAction>(u"mnuHelpAbout"_s).text(), row.last);
+        }
         Stop();
     }
 }

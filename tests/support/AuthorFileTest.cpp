@@ -220,6 +220,32 @@ TEST_F(AuthorFile, AttributesAndAccessListsStay)
     }
 }
 
+TEST_F(AuthorFile, ABatchPutsAllInPlaceOrNothing)
+{
+    using Purpose = AuthorFileBatch::Purpose;
+    for (const Purpose purpose : {Purpose::Save, Purpose::ReplaceMany}) {
+        for (const bool isFinished : {false, true}) {
+            Put(u"a.html"_s, "old", 0604);
+            Put(u"b.html"_s, "old");
+            Put(u"b.html.tmp"_s, "the author's");
+            AuthorFileBatch batch(purpose);
+            for (const QString &name : {u"a.html"_s, u"none/a.html"_s, u"b.html"_s, u"new.html"_s})
+                batch.Add(Path(name), newContent);
+            EXPECT_EQ(Content(u"a.html"_s), "old");
+            if (!isFinished)
+                continue;
+            const QStringList errors = batch.PutInPlace();
+            EXPECT_EQ(errors, QStringList({{}, SystemError(ENOENT), {}, {}}));
+            for (const QString &name : {u"a.html"_s, u"b.html"_s, u"new.html"_s})
+                EXPECT_EQ(Content(name), newContent);
+            EXPECT_EQ(Content(u"b.html.tmp"_s), "the author's");
+            EXPECT_EQ(Status(Path(u"a.html"_s)).st_mode & 07777, 0604u);
+        }
+        ExpectOnly({u"a.html"_s, u"b.html"_s, u"b.html.tmp"_s, u"new.html"_s});
+        QFile::remove(Path(u"new.html"_s));
+    }
+}
+
 TEST_F(AuthorFile, WhatIsNoFileIsNeitherReadNorReplaced)
 {
     QDir(m_folder.path()).mkdir(u"folder"_s);

@@ -27,6 +27,20 @@ public:
         SetSelStart(m_start);
     }
     int TextLength() const override { return int(m_text.size()); }
+    QString TextAt(int start, int length) const override
+    {
+        const int first = std::max(0, start);
+        return m_text.mid(first, std::max(0, start + length - first));
+    }
+    int LineIndex() const override { return int(m_text.left(m_start).count(u'\r')); }
+    void SetLineIndex(int line) override
+    {
+        const QStringList lines = m_text.split(QStringLiteral("\r\n"));
+        const bool exists = line >= 0 && line < lines.size();
+        SetSelStart(exists ? int(lines.mid(0, line).join(QStringLiteral("\r\n")).size())
+                            + (line > 0 ? 2 : 0)
+                           : 1);
+    }
 
     int SelStart() const override { return m_start; }
     void SetSelStart(int position) override
@@ -125,6 +139,11 @@ public:
     void Refresh() override { m_log.append(QStringLiteral("refresh")); }
     void GoBack() override { m_log.append(QStringLiteral("back")); }
     void GoForward() override { m_log.append(QStringLiteral("forward")); }
+    void AskElements(std::function<void(const QList<brenix::PageElement> &elements)> got) override
+    {
+        got(elements);
+    }
+    QList<brenix::PageElement> elements;
     void SetOffline(bool offline) override
     {
         m_log.append(offline ? QStringLiteral("offline") : QStringLiteral("online"));
@@ -175,10 +194,12 @@ public:
     QString Address() const override { return address; }
     void SetAddress(const QString &text) override { address = text; }
     bool IsLocalMode() const override { return isLocal; }
+    QString Dialect() const override { return dialect; }
 
     QString panel;
     QString address;
     bool isLocal = true;
+    QString dialect = QStringLiteral("All HTML");
 
 private:
     QStringList &m_log;
