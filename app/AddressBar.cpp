@@ -64,6 +64,7 @@ AddressBar::AddressBar(QWidget *parent)
     m_address->lineEdit()->setPlaceholderText(u"Address"_s);
     addWidget(m_address);
     connect(m_address->lineEdit(), &QLineEdit::textEdited, this, &AddressBar::AddressEdited);
+    connect(m_address, &QComboBox::textActivated, this, &AddressBar::AddressEdited);
     connect(m_address->lineEdit(), &QLineEdit::returnPressed, this, [this] {
         const QString address = Address();
         if (m_address->findText(address) < 0 && m_address->count() < LongestHistory)

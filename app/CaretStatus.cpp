@@ -57,12 +57,22 @@ namespace {
 CaretStatus::CaretStatus(CodeHighlight &source, QWidget &window)
     : m_source(source)
     , m_window(window)
-    , m_swatch(new QLabel(&window))
-    , m_pictureFrame(new QFrame(&window))
-    , m_picture(new QLabel(m_pictureFrame))
-    , m_noteFrame(new QFrame(&window))
-    , m_note(new QLabel(m_noteFrame))
 {
+    source.installEventFilter(this);
+    source.viewport()->installEventFilter(this);
+    // The vertical bar is silent when the box scrolls to its caret.
+    connect(&source, &CodeHighlight::updateRequest, this, &CaretStatus::Place);
+    connect(source.horizontalScrollBar(), &QScrollBar::valueChanged, this, &CaretStatus::Place);
+}
+
+// When there is first something to show.
+void CaretStatus::Build()
+{
+    m_swatch = new QLabel(&m_window);
+    m_pictureFrame = new QFrame(&m_window);
+    m_picture = new QLabel(m_pictureFrame);
+    m_noteFrame = new QFrame(&m_window);
+    m_note = new QLabel(m_noteFrame);
     m_swatch->setObjectName(u"Label1"_s);
     m_swatch->setAccessibleName(u"Selected colour"_s);
     m_pictureFrame->setObjectName(u"Picture3"_s);
@@ -85,12 +95,6 @@ CaretStatus::CaretStatus(CodeHighlight &source, QWidget &window)
     auto *layout = new QHBoxLayout(m_noteFrame);
     layout->setContentsMargins(6, 3, 6, 3);
     layout->addWidget(m_note);
-
-    source.installEventFilter(this);
-    source.viewport()->installEventFilter(this);
-    // The vertical bar is silent when the box scrolls to its caret.
-    connect(&source, &CodeHighlight::updateRequest, this, &CaretStatus::Place);
-    connect(source.horizontalScrollBar(), &QScrollBar::valueChanged, this, &CaretStatus::Place);
 }
 
 void CaretStatus::Follow(const QString &folder)
@@ -98,6 +102,9 @@ void CaretStatus::Follow(const QString &folder)
     const int length = m_source.SelLength();
     const CaretNote note
         = length > 0 && length <= LongestNoted ? NoteOf(m_source.SelText()) : CaretNote();
+    const bool isNoted = note.colour || !note.picture.isEmpty() || !note.entity.isEmpty();
+    if (isNoted && !m_swatch)
+        Build();
     QWidget *const before = std::exchange(m_current, nullptr);
     if (note.colour) {
         QPalette colours = m_swatch->palette();

@@ -29,16 +29,17 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void Build();
     bool LoadPicture(const QString &path);
     void Place();
 
     CodeHighlight &m_source;
     QWidget &m_window;
-    QLabel *m_swatch; // Label1
-    QFrame *m_pictureFrame; // Picture3
-    QLabel *m_picture; // Image1
-    QFrame *m_noteFrame; // Picture2
-    QLabel *m_note; // Letters
+    QLabel *m_swatch = nullptr; // Label1
+    QFrame *m_pictureFrame = nullptr; // Picture3
+    QLabel *m_picture = nullptr; // Image1
+    QFrame *m_noteFrame = nullptr; // Picture2
+    QLabel *m_note = nullptr; // Letters
     QWidget *m_current = nullptr; // the one of the three that fits the selection
 };
 

@@ -201,6 +201,7 @@ bool frmDocument::Save()
     if (!m_source->SaveFile(Caption()))
         return false;
     Modyfied = u"0"_s;
+    Form_Activate();
     return true;
 }
 
@@ -265,9 +266,11 @@ void frmDocument::OnSourceChange()
         return;
     if (!m_copyWriter.isActive())
         m_copyWriter.start(CopyDelay);
-    if (IsSettingOn(u"Auto", u"Refresh", true))
-        m_refresher.start(
-            GetNumberSetting(u"Auto", u"RefreshNumber", DefaultRefresh).value_or(DefaultRefresh));
+    if (!IsSettingOn(u"Auto", u"Refresh", true))
+        return;
+    const int delay
+        = GetNumberSetting(u"Auto", u"RefreshNumber", DefaultRefresh).value_or(DefaultRefresh);
+    m_refresher.start(delay >= 0 ? delay : DefaultRefresh);
 }
 
 void frmDocument::WritePreview()
@@ -286,6 +289,15 @@ void frmDocument::WritePreview()
     // A copy that cannot be written leaves the preview with the one before.
     if (m_copyStale || !QFile::exists(path))
         m_copyStale = !WritePreviewCopy(path, m_source->FileBytes());
+}
+
+bool frmDocument::WriteBrowserCopy()
+{
+    WritePreview();
+    if (Banen().isEmpty() || !HoldsDesignText())
+        return !Banen().isEmpty();
+    m_copyStale = true; // the source does not hold this text
+    return m_design->SaveDocument(Banen());
 }
 
 void frmDocument::RefreshPreview(int milliseconds)

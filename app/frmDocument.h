@@ -46,6 +46,8 @@ public:
     /// saved.
     bool Save();
     bool SaveAs(const QString &title);
+    /// Brings the preview copy up to what the current view shows. False when there is none.
+    bool WriteBrowserCopy();
     /// Renews the preview soon, as the view bar and F5 do.
     void RefreshPreview(int milliseconds);
     /// What the main window must know again when this window becomes active or gets another name.

@@ -51,6 +51,13 @@ namespace {
     };
     constexpr int StartButtons = 2; // of the bar that shows when no document is open
 
+    // Not all of them stand in a menu as well.
+    void LetTabReachButtons(const QToolBar *bar)
+    {
+        for (QToolButton *button : bar->findChildren<QToolButton *>())
+            button->setFocusPolicy(Qt::TabFocus);
+    }
+
 } // namespace
 
 frmMain::frmMain()
@@ -134,7 +141,9 @@ void frmMain::BuildToolbars()
                 bar->addSeparator();
                 continue;
             }
-            QAction *action = bar->addAction(SkinIcon(button.icon), QString::fromUtf16(button.tip));
+            const QString tip = m_toolTips.value(QString::fromUtf16(button.menuName),
+                                                 QString::fromUtf16(button.tip));
+            QAction *action = bar->addAction(SkinIcon(button.icon), tip);
             connect(action,
                     &QAction::triggered,
                     this,
@@ -148,15 +157,18 @@ void frmMain::BuildToolbars()
     auto *style = new QToolButton(m_toolbar1);
     style->setIcon(SkinIcon(u"Style"));
     style->setToolTip(u"Style"_s);
+    style->setAccessibleName(u"Style"_s);
     style->setMenu(BuildStyleMenu());
     style->setPopupMode(QToolButton::InstantPopup);
     m_toolbar1->addWidget(style);
+    LetTabReachButtons(m_toolbar1);
     m_noWindows = addToolBar(u"Start"_s);
     m_noWindows->setObjectName(u"NoWindows"_s);
     fill(m_noWindows, StartButtons);
 
     m_addressBar = new AddressBar(this);
     addToolBar(m_addressBar);
+    LetTabReachButtons(m_addressBar);
     const auto browse = [this](void (BrowserView::*action)()) {
         return [this, action] {
             if (frmDocument *document = ActiveForm(); document && document->WebBrowser1())
@@ -260,9 +272,10 @@ void frmMain::ShowBarsFor(const QString &status)
     m_previewBar->setVisible(status == u"Preview");
     m_designStatus->setVisible(status == u"Design");
     EnableSelectionCommands();
+    const bool toolbars = m_menu->ActionOf(u"mnuViewToolbar"_s)->isChecked();
     if (m_addressBar)
-        m_addressBar->setVisible(sourceSide && m_menu->ActionOf(u"mnuViewToolbar"_s)->isChecked());
-    ShowDesignBars(status == u"Design");
+        m_addressBar->setVisible(sourceSide && toolbars);
+    ShowDesignBars(status == u"Design" && toolbars);
 }
 
 // Made when a page is first shown in the design view: reading all fonts takes time.
@@ -271,6 +284,7 @@ void frmMain::ShowDesignBars(bool shown)
     if (shown && !m_designBar) {
         m_designTools = new DesignTools(this);
         addToolBar(m_designTools);
+        LetTabReachButtons(m_designTools);
         connect(m_designTools, &DesignTools::TableClicked, this, &frmMain::PickTable);
         m_designBar = new DesignBar(this);
         addToolBar(m_designBar);
@@ -288,10 +302,12 @@ void frmMain::ShowDesignBars(bool shown)
 void frmMain::FollowDesign()
 {
     frmDocument *document = ActiveForm();
-    if (!document || document->Status() != u"Design" || !m_designBar)
+    if (!document || document->Status() != u"Design")
         return;
-    m_designTools->Follow();
-    m_designBar->Follow();
+    if (m_designBar) {
+        m_designTools->Follow();
+        m_designBar->Follow();
+    }
     m_titlePanel->setText(document->Design()->DocumentTitle());
 }
 

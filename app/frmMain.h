@@ -148,6 +148,7 @@ private:
     void RunTidyPreset(const QString &name);
     void RunTidy(const QString &script, TidyScriptPlace place);
     QMenu *BuildStyleMenu();
+    void FillStyleMenu(QMenu &menu);
     void WrapInFont(frmDocument &page, const QString &font);
     void ChooseBackground();
     void EditTag(frmDocument &page);

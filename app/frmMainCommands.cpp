@@ -216,8 +216,7 @@ void frmMain::FillBrowserMenu()
         item->setEnabled(!browser.path.isEmpty());
         connect(item, &QAction::triggered, this, [this, number] {
             ForActive([&](frmDocument &document) {
-                document.WritePreview();
-                if (!document.Banen().isEmpty())
+                if (document.WriteBrowserCopy())
                     StartBrowser(BrowserAt(number), document.Banen());
             });
         });

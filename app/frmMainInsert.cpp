@@ -69,6 +69,15 @@ namespace {
         return answer == Answer::Yes && QFile::copy(path, copy) ? copy : path;
     }
 
+    // The selection inside the tags of a style.
+    void ApplyStyle(DocumentModel &page, const Style &style)
+    {
+        if (page.Status() == u"Design" && *style.designStyle != u'\0')
+            page.Design()->ExecCommand(Decmd::SetBlockFmt, QString::fromUtf16(style.designStyle));
+        else
+            InsertMarkup(page, QString::fromUtf16(style.markup));
+    }
+
 } // namespace
 
 void frmMain::AddInsertCommands(MainMenu::Commands &commands)
@@ -132,25 +141,28 @@ void frmMain::EditTag(frmDocument &page)
     }
 }
 
-// The selection inside the tags of a style.
 QMenu *frmMain::BuildStyleMenu()
 {
     auto *menu = new QMenu(u"Style"_s, this);
     menu->setObjectName(u"mnuStyle"_s);
+    connect(
+        menu,
+        &QMenu::aboutToShow,
+        this,
+        [this, menu] { FillStyleMenu(*menu); },
+        Qt::SingleShotConnection);
+    return menu;
+}
+
+void frmMain::FillStyleMenu(QMenu &menu)
+{
     for (const Style &style : Styles) {
-        QAction *item = menu->addAction(QString::fromUtf16(style.caption));
+        QAction *item = menu.addAction(QString::fromUtf16(style.caption));
         item->setObjectName(QString::fromUtf16(style.name));
         connect(item, &QAction::triggered, this, [this, &style] {
-            ForActive([&](frmDocument &page) {
-                if (page.Status() == u"Design" && *style.designStyle != u'\0')
-                    page.Design()->ExecCommand(Decmd::SetBlockFmt,
-                                               QString::fromUtf16(style.designStyle));
-                else
-                    InsertMarkup(page, QString::fromUtf16(style.markup));
-            });
+            ForActive([&](frmDocument &page) { ApplyStyle(page, style); });
         });
     }
-    return menu;
 }
 
 // Filled when it is first opened: there may be hundreds of fonts.

@@ -23,6 +23,7 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 #include <QSplitter>
+#include <QStyle>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -97,12 +98,14 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
 void frmMain::ReadLanguageFile()
 {
     const FileContent file = ReadAuthorFile(AppPath(u"language.lng"));
-    ReadLanguage(DecodePage(file.bytes, {}).text,
-                 [this](const QString &name, const QString &caption) {
-                     m_menu->SetCaption(name, caption);
-                     m_toolbox->SetCaption(name, caption);
-                     m_toolTips.insert(name, QString(caption).remove(u'&').remove(u"..."_s));
-                 });
+    const QString text = DecodePage(file.bytes, {}).text;
+    if (text.contains(QChar::Null)) // a file of another kind
+        return;
+    ReadLanguage(text, [this](const QString &name, const QString &caption) {
+        m_menu->SetCaption(name, caption);
+        m_toolbox->SetCaption(name, caption);
+        m_toolTips.insert(name, QString(caption).remove(u'&').remove(u"..."_s));
+    });
 }
 
 void frmMain::ReadTabs()
@@ -122,8 +125,9 @@ void frmMain::ReadLargeFile()
 {
     if (GetSetting(u"Settings", u"LargeFile").isEmpty())
         SaveNumber(u"LargeFile", DefaultLargeFile);
-    SetLargeFile(
-        GetNumberSetting(u"Settings", u"LargeFile", DefaultLargeFile).value_or(DefaultLargeFile));
+    const int limit
+        = GetNumberSetting(u"Settings", u"LargeFile", DefaultLargeFile).value_or(DefaultLargeFile);
+    SetLargeFile(limit >= 0 ? limit : DefaultLargeFile);
 }
 
 void frmMain::ShowFtpCommand()
@@ -144,9 +148,12 @@ void frmMain::RestoreWindow()
                 PixelSetting(u"MainTop", 1000).value_or(design.top()),
                 PixelSetting(u"MainWidth", 6500).value_or(design.width()),
                 PixelSetting(u"MainHeight", 6500).value_or(design.height()));
-    // A window that lies off every screen, or is larger than its screen, is brought back onto one.
+    // A window that lies off every screen, or is larger than its screen, is brought back onto one,
+    // with the title that it is moved by.
     const QScreen *screen = QGuiApplication::screenAt(place.center());
-    const QRect whole = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QRect whole = (screen ? screen : QGuiApplication::primaryScreen())
+                            ->availableGeometry()
+                            .adjusted(0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
     place.setSize(place.size()
                       .expandedTo(SmallestWindow)
                       .expandedTo(minimumSizeHint())

@@ -1,6 +1,7 @@
 #include "app/frmOptions.h"
 
 #include "app/frmDrive.h"
+#include "support/Help.h"
 #include "support/MessageBoxes.h"
 
 #include <QBoxLayout>
@@ -94,7 +95,8 @@ frmOptions::frmOptions(QWidget *parent)
     scroll->setWidget(m_stack);
     right->addWidget(scroll, 1);
     Rows().Add(body, 1);
-    AddButtons({.ok = u"cmdOk", .cancel = u"cmdCancel"});
+    AddButtons({.ok = u"cmdOk", .cancel = u"cmdCancel", .help = u"Command4"},
+               [] { ShowHelp(u"OPTIONS"_s); });
 
     m_searchDone.setParent(this);
     m_tree->setObjectName(u"TreeView"_s);

@@ -5,6 +5,7 @@
 #include "support/WebModule.h"
 
 #include <QApplication>
+#include <QPalette>
 #include <QTimer>
 
 #include <cstdio>
@@ -31,15 +32,36 @@ void AnnouncePreview(brenix::frmMain &window)
         Qt::SingleShotConnection);
 }
 
+// Some desktops give the colour of text and leave that of placeholders as it is for dark text.
+void MakePlaceholdersReadable()
+{
+    const QPalette system = QApplication::palette();
+    const int base = system.color(QPalette::Base).lightness();
+    const bool isTextLight = system.color(QPalette::Text).lightness() > base;
+    const bool isPlaceholderLight = system.color(QPalette::PlaceholderText).lightness() > base;
+    if (isTextLight == isPlaceholderLight)
+        return;
+    QColor ink = system.color(QPalette::Text);
+    ink.setAlphaF(0.5F);
+    QPalette mended;
+    mended.setColor(QPalette::PlaceholderText, ink);
+    QApplication::setPalette(mended);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     brenix::PrepareForWebModule();
+#ifdef Q_OS_LINUX
+    // A menu of the desktop's would be asked for over the session bus at each start.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+#endif
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Brenix"));
     QApplication::setApplicationVersion(QStringLiteral(BRENIX_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
+    MakePlaceholdersReadable();
 
     auto splash = std::make_unique<brenix::frmSplash>();
     brenix::frmMain window;

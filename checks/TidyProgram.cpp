@@ -2,7 +2,6 @@
 
 #include "support/Paths.h"
 
-#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -31,6 +30,7 @@ namespace {
         ::setpgid(0, 0);
         const rlimit fileSize{TidyProgram::LargestFile, TidyProgram::LargestFile};
         ::setrlimit(RLIMIT_FSIZE, &fileSize);
+        ::signal(SIGXFSZ, SIG_DFL); // a signal that is ignored stays so in a new program
         const rlimit noCore{0, 0};
         ::setrlimit(RLIMIT_CORE, &noCore);
 #ifdef Q_OS_LINUX
@@ -53,9 +53,8 @@ namespace {
 
 QString TidyProgram::Path()
 {
-    const QString own = AppPath(u"Tidy/tidydbg");
-    const QFileInfo file(own);
-    return file.isFile() && file.isExecutable() ? own : QStandardPaths::findExecutable(u"tidy"_s);
+    const QString own = QStandardPaths::findExecutable(u"tidydbg"_s, {AppPath(u"Tidy")});
+    return own.isEmpty() ? QStandardPaths::findExecutable(u"tidy"_s) : own;
 }
 
 void TidyProgram::Start(const QStringList &arguments, std::function<void(End, int)> ended)

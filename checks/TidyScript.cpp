@@ -22,8 +22,8 @@ namespace brenix {
 namespace {
 
     constexpr int TidyLanguage = 4;
-    constexpr int CharactersWide = 72;
-    constexpr int LinesHigh = 24;
+    constexpr int CharactersWide = 84;
+    constexpr int LinesHigh = 28;
 
     CodeHighlight *NewCode(QWidget *window)
     {
@@ -73,8 +73,10 @@ TidyScript::TidyScript(const TidyPresets &presets,
     layout->addLayout(row);
     layout->addWidget(m_code, 1);
     setCentralWidget(centre);
-    resize(fontMetrics().averageCharWidth() * CharactersWide,
-           fontMetrics().lineSpacing() * LinesHigh);
+    resize(m_code->fontMetrics().averageCharWidth() * CharactersWide,
+           m_code->fontMetrics().lineSpacing() * LinesHigh);
+    if (parent)
+        move(parent->frameGeometry().center() - rect().center());
 
     connect(m_code, &CodeHighlight::Change, this, [this] { setWindowModified(true); });
     connect(m_preset->lineEdit(), &QLineEdit::textEdited, this, [this](const QString &text) {

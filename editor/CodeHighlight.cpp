@@ -20,6 +20,7 @@ namespace brenix {
 namespace {
 
     constexpr int UndoDelay = 5; // ms
+    constexpr int LargestFont = 200; // points
 
     // The same text with every line end as CR LF.
     QString WithCrLf(const QString &text)
@@ -265,8 +266,7 @@ void CodeHighlight::SetFont(const QString &name, int points)
     QFont font(name);
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
-    if (points > 0)
-        font.setPointSize(points);
+    font.setPointSize(points > 0 && points <= LargestFont ? points : this->font().pointSize());
     setFont(font);
     setTabStopDistance(8 * QFontMetricsF(font).horizontalAdvance(u' '));
     PlaceGutter();
@@ -339,7 +339,9 @@ void CodeHighlight::ReplaceHeld(int from, int length, const QString &held)
 {
     const bool repaintEnabled = std::exchange(m_repaintEnabled, false);
     m_textChanged = true;
-    m_selChangeDue = true;
+    // A key tells of the new caret at its end; a command has no such moment of its own.
+    if (!std::exchange(m_selChangeDue, true))
+        QMetaObject::invokeMethod(this, &CodeHighlight::OnSelChange, Qt::QueuedConnection);
     m_colours.Replace(from, length, held, LargeFile());
     Select(from + int(held.size()), from + int(held.size()));
     m_editedLine = LineIndex();

@@ -52,8 +52,14 @@ CompletionLists::CompletionLists(CodeHighlight &source, QWidget &window)
     , m_source(source)
     , m_window(window)
 {
-    for (int kind = 0; kind < KindCount; ++kind)
-        m_lists[kind] = Create(Kind(kind), window);
+}
+
+// Made when it is first needed: five lists that nobody may see would hold up each new window.
+QListWidget &CompletionLists::List(Kind kind)
+{
+    if (!m_lists[kind])
+        m_lists[kind] = Create(kind, m_window);
+    return *m_lists[kind];
 }
 
 QListWidget *CompletionLists::Create(Kind kind, QWidget &window)
@@ -77,8 +83,8 @@ QListWidget *CompletionLists::Create(Kind kind, QWidget &window)
 void CompletionLists::Fill(Kind kind, const QStringList &rows)
 {
     m_rows[kind] = rows;
-    m_lists[kind]->clear();
-    m_lists[kind]->addItems(rows);
+    List(kind).clear();
+    List(kind).addItems(rows);
 }
 
 bool CompletionLists::IsEmpty(Kind kind) const
@@ -88,12 +94,12 @@ bool CompletionLists::IsEmpty(Kind kind) const
 
 bool CompletionLists::IsShown(Kind kind) const
 {
-    return !m_lists[kind]->isHidden();
+    return m_lists[kind] && !m_lists[kind]->isHidden();
 }
 
 void CompletionLists::Show(Kind kind, int selected)
 {
-    QListWidget &list = *m_lists[kind];
+    QListWidget &list = List(kind);
     m_typed[kind].clear();
     list.setCurrentRow(selected);
     if (selected < 0)
@@ -106,7 +112,8 @@ void CompletionLists::Show(Kind kind, int selected)
 void CompletionLists::Hide(Kind kind)
 {
     m_typed[kind].clear();
-    m_lists[kind]->hide();
+    if (m_lists[kind])
+        m_lists[kind]->hide();
 }
 
 void CompletionLists::HideAll()
@@ -117,7 +124,7 @@ void CompletionLists::HideAll()
 
 QString CompletionLists::Selected(Kind kind) const
 {
-    return m_rows[kind].value(m_lists[kind]->currentRow());
+    return m_lists[kind] ? m_rows[kind].value(m_lists[kind]->currentRow()) : QString();
 }
 
 void CompletionLists::AddTyped(QChar character)

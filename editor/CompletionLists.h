@@ -52,6 +52,7 @@ signals:
     void Clicked();
 
 private:
+    QListWidget &List(Kind kind);
     QListWidget *Create(Kind kind, QWidget &window);
     void SetTyped(Kind kind, const QString &typed);
     QString CharacterBeforeCaret() const;
@@ -60,7 +61,7 @@ private:
 
     CodeHighlight &m_source;
     QWidget &m_window;
-    std::array<QListWidget *, KindCount> m_lists{};
+    std::array<QListWidget *, KindCount> m_lists{}; // null until needed
     std::array<QStringList, KindCount> m_rows;
     std::array<QString, KindCount> m_typed; // Text1, Text2, Text3 and, of the values, Text4
     int m_barHeight = 0;

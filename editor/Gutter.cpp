@@ -65,6 +65,9 @@ void Gutter::paintEvent(QPaintEvent *event)
             drawNumber(number++, top);
         lineStart = !block.isValid() || !m_editor.m_mirror->EndsInSoftBreak(block);
         top += block.isValid() ? m_editor.blockBoundingRect(block).height() : lineHeight;
+        // The last block's height holds the margin below the text.
+        if (block.isValid() && !block.next().isValid())
+            top -= m_editor.document()->documentMargin();
         block = block.next();
     }
 }

@@ -31,6 +31,7 @@ namespace {
                               {LinkKind::Inside, u"Inside", u"Inside Document"},
                               {LinkKind::Mail, u"Mail", u"Mail Address"}};
 
+    constexpr int AddressLetters = 40;
     constexpr char16_t TargetFilter[]
         = u"All Files (*.*)|*.*|HyperText files (*.html;*.htm)|*.html;*.htm|URL Files "
           u"(*.url)|*.url|Webfiles (*.xml;*.asp;*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm)|*.xml;*.asp;"
@@ -86,6 +87,7 @@ QWidget *frmHyperlink::AddressPage()
                            u"Please enter the &address you want to link to:"_s,
                            m_recent.addresses,
                            m_link.address);
+    m_address->setMinimumContentsLength(AddressLetters);
     m_address->installEventFilter(this);
     connect(m_address->lineEdit(), &QLineEdit::textEdited, this, &frmHyperlink::CompleteAddress);
     form.ButtonBeside(u"Command4", u"&Browse..."_s, [this] { ChooseTarget(); });

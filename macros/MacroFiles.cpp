@@ -1,6 +1,7 @@
 #include "macros/MacroFiles.h"
 
 #include "support/AuthorFile.h"
+#include "support/ListInput.h"
 #include "support/Paths.h"
 #include "support/SettingsStore.h"
 
@@ -57,6 +58,15 @@ MacroFile ReadMacroFile(const QString &name)
         return {{}, {MacroError::FileNotFound, file.error}};
     const QString codec = GetSetting(u"Editor", u"Encoding", u"windows-1250"_s);
     return {DecodePage(file.bytes, codec.toLatin1()), {}};
+}
+
+QString MacroText(QStringView file)
+{
+    ListInput input(file);
+    QStringList fields;
+    while (const std::optional<QString> field = input.Next())
+        fields.append(*field);
+    return fields.join(u"\r\n"_s);
 }
 
 MacroError WriteMacroFile(const QString &name, const QString &text, const PageEncoding &encoding)

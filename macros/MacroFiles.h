@@ -7,8 +7,7 @@
 
 namespace brenix {
 
-/// Why a macro, or something done to its file, failed. The numbers are those that authors of macros
-/// know from their desktop's Basic.
+/// Why a macro, or something done to its file, failed. The author is told the number as well.
 struct MacroError
 {
     enum Number {
@@ -43,6 +42,10 @@ struct MacroFile
     MacroError error;
 };
 MacroFile ReadMacroFile(const QString &name);
+
+/// The text of a macro as it is run: the fields of its file, each on a line of its own (CR LF), so
+/// that a comma becomes a line end and a field in double quotes loses them.
+QString MacroText(QStringView file);
 
 /// Writes a text to the file of a macro in the encoding that it had; where that lacks a character,
 /// the file becomes UTF-8.

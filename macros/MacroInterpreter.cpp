@@ -5,7 +5,6 @@
 #include "editor/InsertMarkup.h"
 #include "macros/MacroValues.h"
 #include "support/DocumentModel.h"
-#include "support/ListInput.h"
 #include "support/SourceView.h"
 
 #include <QProcess>
@@ -143,13 +142,13 @@ namespace {
 
     void MacroRun::Type(const QString &text)
     {
-        if (!text.isEmpty() && GoesOn())
+        if (!text.isEmpty())
             Put(text);
     }
 
     void MacroRun::Put(const QString &text)
     {
-        if (Source().IsReadOnlyPage() || (text.isEmpty() && Source().SelLength() == 0))
+        if (!GoesOn() || Source().IsReadOnlyPage() || (text.isEmpty() && Source().SelLength() == 0))
             return;
         Source().AddUndo();
         Source().SetSelText(text);
@@ -284,15 +283,6 @@ namespace {
     }
 
 } // namespace
-
-QString MacroText(QStringView file)
-{
-    ListInput input(file);
-    QStringList fields;
-    while (const std::optional<QString> field = input.Next())
-        fields.append(*field);
-    return fields.join(u"\r\n"_s);
-}
 
 MacroError RunMacro(const QString &macro, MacroHost &host)
 {

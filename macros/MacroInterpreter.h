@@ -4,7 +4,6 @@
 #include "macros/SendKeys.h"
 
 #include <QString>
-#include <QStringView>
 
 namespace brenix {
 
@@ -39,10 +38,6 @@ public:
     /// Starts a program, and does not wait for its end; false when that cannot be done.
     virtual bool StartProgram(const QString &program, const QStringList &arguments) = 0;
 };
-
-/// The text of a macro as it is run: the fields of its file, each on a line of its own (CR LF), so
-/// that a comma becomes a line end and a field in double quotes loses them.
-QString MacroText(QStringView file);
 
 /// Runs a macro. What stands in square brackets is a command, in any case; one that is not known is
 /// typed as it is, in lower case, like all text between the commands. Text before the first command

@@ -28,6 +28,7 @@ namespace {
     constexpr int Columns = 3;
     constexpr qsizetype LongCaption = 40;
     constexpr int LeastLines = 4;
+    constexpr int LeastLetters = 16; // of a combo box
 
     QString PlainCaption(const QString &caption)
     {
@@ -121,6 +122,9 @@ QComboBox *Form::Combo(const char16_t *name,
 {
     auto *box = AddRow(name, caption, new QComboBox(m_page));
     box->setEditable(true);
+    // One long item must not make the dialog wider than the screen.
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(LeastLetters);
     box->addItems(items);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->completer()->setCaseSensitivity(Qt::CaseSensitive);

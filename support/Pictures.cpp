@@ -1,8 +1,10 @@
 #include "support/Pictures.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QUrl>
+#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +18,22 @@ namespace {
     constexpr qint64 MostPreviewPixels = 8'000'000;
     constexpr qint64 MostPreviewJpegPixels = 24'000'000; // scaled while it is decoded
 
+    // The reader takes a JPEG that is cut off for a whole one. Behind the start of the scan an end
+    // mark is the picture's own; before it there may be a small picture with one.
+    bool IsWholeJpeg(const QString &path)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return false;
+        const QByteArray bytes = file.readAll();
+        qsizetype segment = 2;
+        while (segment + 4 <= bytes.size() && bytes.mid(segment, 2) != "\xFF\xDA") {
+            const bool isFiller = bytes[segment + 1] == '\xFF';
+            segment += isFiller ? 1 : 2 + qFromBigEndian<quint16>(bytes.constData() + segment + 2);
+        }
+        return bytes.indexOf("\xFF\xD9", segment) >= 0;
+    }
+
     // Sets the reader up; false for a file that is no picture or would take too long.
     bool IsReadable(QImageReader &reader, qint64 mostPixels, qint64 mostJpegPixels)
     {
@@ -27,7 +45,8 @@ namespace {
         if (QFileInfo(reader.fileName()).size() > largest)
             return false; // asking for the size of a drawing reads all of it
         const QSize size = reader.size();
-        return !size.isEmpty() && qint64(size.width()) * size.height() <= most;
+        return !size.isEmpty() && qint64(size.width()) * size.height() <= most
+            && (format != "jpeg" || IsWholeJpeg(reader.fileName()));
     }
 
 } // namespace

@@ -82,11 +82,6 @@ QString DesignedAttribute(const QString &attribute)
     return attribute + u' ';
 }
 
-bool IsColourKey(QChar key)
-{
-    return u"0123456789ABCDEFabcdef#\b"_s.contains(key);
-}
-
 QString DesignedTag(const QString &name, const QString &code)
 {
     QString attributes = code;

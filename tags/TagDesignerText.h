@@ -26,9 +26,6 @@ QString DesignedAttribute(const QString &attribute, const QString &value);
 /// The same for an attribute without a value.
 QString DesignedAttribute(const QString &attribute);
 
-/// True for the characters that the colour box takes: hexadecimal digits, "#" and Backspace.
-bool IsColourKey(QChar key);
-
 /// The tag with the attribute text `code` as it stands, blanks included, and its end tag where it
 /// has one: "IMG" and `src="a.gif" ` give `<IMG src="a.gif" >`, "B" alone gives "<B></B>".
 QString DesignedTag(const QString &name, const QString &code);

@@ -9,6 +9,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHeaderView>
@@ -90,6 +91,7 @@ void frmEditTag::BuildFields()
     m_name->setObjectName(u"Combo1"_s);
     m_name->setEditable(true);
     m_name->setInsertPolicy(QComboBox::NoInsert);
+    m_name->completer()->setCaseSensitivity(Qt::CaseSensitive); // names keep the case they have
     m_value->setObjectName(u"Text2"_s);
     connect(m_name, &QComboBox::editTextChanged, this, [this](const QString &text) {
         SetCurrent(NameColumn, text);
@@ -176,8 +178,28 @@ void frmEditTag::SetCurrent(int column, const QString &text)
         item->setText(column, text);
 }
 
+bool frmEditTag::IsRefused() const
+{
+    QString reason;
+    if (IsCommentTag(m_tagName))
+        reason = u"Cannot edit comment tags"_s;
+    else if (!IsEditable(m_page.rtfText().SelText()))
+        reason = u"You must place the cursor inside a starttag (Eg. <BODY>)"_s;
+    else
+        return false;
+    MsgBox(reason, Buttons::Ok, Icon::Information);
+    return true;
+}
+
+int frmEditTag::exec()
+{
+    return IsRefused() ? Rejected : QDialog::exec();
+}
+
 void frmEditTag::accept()
 {
+    if (IsRefused())
+        return reject();
     EditedTag tag{.name = m_tagName, .attributes = {}};
     for (int i = 0; i < m_grid->topLevelItemCount(); ++i) {
         const QTreeWidgetItem *item = m_grid->topLevelItem(i);

@@ -21,9 +21,13 @@ public:
     /// The page's selection is the tag.
     explicit frmEditTag(DocumentModel &page, QWidget *parent = nullptr);
 
+    /// Says why, and shows nothing, when the selection is no start tag; the same holds for OK, when
+    /// it is none any more.
+    int exec() override;
     void accept() override;
 
 private:
+    bool IsRefused() const;
     void BuildGrid();
     void BuildFields();
     void BuildButtons();

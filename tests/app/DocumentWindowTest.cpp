@@ -326,6 +326,12 @@ TEST_F(DocumentWindow, SourceIsSetUpFromTheSettings)
     EXPECT_EQ(source.Colours().op, 32896u);
     EXPECT_EQ(source.font().pointSize(), 17);
     EXPECT_EQ(source.Margin(), 0);
+
+    for (const QString &size : {u"100000"_s, u"-3"_s}) {
+        SaveSetting(u"Editor", u"FontSize", size);
+        document.ConfigureSource();
+        EXPECT_EQ(source.font().pointSize(), 17) << size.toStdString();
+    }
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "support/UntitledPages.h"
 #include "tests/app/MainWindowFixture.h"
 
+#include <QAbstractButton>
 #include <QDropEvent>
 #include <QListWidget>
 #include <QMimeData>
@@ -214,6 +215,18 @@ TEST_F(FileCommands, Save)
         EXPECT_EQ(boxes.asked.size(), row.messages);
         EXPECT_EQ(RecentFile(1), recent) << "saving leaves the recent list alone";
     }
+}
+
+TEST_F(FileCommands, SaveInAnotherEncodingIsShown)
+{
+    Start();
+    window->OpenPath(Write(u"page.html"_s, "caf\xe9"));
+    const auto &panel = Find<QAbstractButton>(u"Encoding"_s);
+    EXPECT_EQ(panel.text(), u"windows-1250"_s);
+    Active().Source().SetSelText(u"\u4e2d"_s);
+    Scripted().chooseBox = [](const QString &, const QStringList &) { return 0; };
+    Trigger(u"mnuFileSave"_s);
+    EXPECT_EQ(panel.text(), u"UTF-8"_s);
 }
 
 TEST_F(FileCommands, SaveAsTemplate)

@@ -46,8 +46,10 @@ TEST_F(InsertCommands, ItemsWrapTheSelection)
     for (const auto &[item, text] : cases) {
         SCOPED_TRACE(qPrintable(item));
         StartWithSelection();
-        Find<QMenu>(u"mnuFont"_s).popup({});
-        Find<QMenu>(u"mnuFont"_s).close();
+        for (const QString &menu : {u"mnuFont"_s, u"mnuStyle"_s}) {
+            Find<QMenu>(menu).popup({});
+            Find<QMenu>(menu).close();
+        }
         Trigger(item);
         EXPECT_EQ(Active().Source().Text(), text);
         EXPECT_EQ(Active().Modyfied(), u"1"_s);

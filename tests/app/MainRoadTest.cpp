@@ -1,3 +1,4 @@
+#include "support/DesignView.h"
 #include "tests/app/MainWindowFixture.h"
 
 #include <QWebEnginePage>
@@ -90,6 +91,28 @@ TEST_F(MainRoad, ViewsShowTheChangedText)
     EXPECT_TRUE(
         WaitFor([&] { return Run(u"location.href"_s).toString().endsWith(u"other_.html"_s); }));
     EXPECT_THAT(Files(), ElementsAre(u"other.html"_s, u"other_.html"_s, u"page.html"_s));
+}
+
+TEST_F(MainRoad, ExternalBrowserGetsWhatTheViewShows)
+{
+    const QString program = Write(u"browser"_s, "#!/bin/sh\ncat \"${1#file://}\" > \"$0.shown\"");
+    ASSERT_TRUE(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+    Set(u"Browser1/Path", program);
+    Start({Write(u"my page.html"_s, "<h1>one</h1>")});
+    const auto isGiven = [&](const QByteArray &text) {
+        QFile::remove(program + u".shown"_s);
+        Trigger(u"mnuBrowser1"_s);
+        return WaitFor([&] { return Read(program + u".shown"_s).contains(text); });
+    };
+    Trigger(u"mnuHtmlMode"_s);
+    Active().Source().SetText(u"<h1>two</h1>"_s);
+    EXPECT_TRUE(isGiven("<h1>two</h1>"));
+    Trigger(u"mnuDesignMode"_s);
+    Active().Design()->PasteHTML(u"<u>x</u>"_s);
+    EXPECT_TRUE(isGiven("<u>x</u>"));
+    Active().Design()->ExecCommand(Decmd::Undo);
+    Trigger(u"mnuHtmlMode"_s);
+    EXPECT_TRUE(isGiven("<h1>two</h1>")) << "the edit was undone";
 }
 
 TEST_F(MainRoad, AutomaticRefreshCanBeOff)

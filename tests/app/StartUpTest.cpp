@@ -13,6 +13,8 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyle>
+#include <QToolBar>
 
 using namespace brenix;
 using namespace Qt::StringLiterals;
@@ -125,7 +127,7 @@ TEST_F(StartUp, StoresAndFills)
 TEST_F(StartUp, LargeFileIsReadOrStored)
 {
     const std::tuple<QString, int, QString> cases[]
-        = {{u""_s, 20000, u"20000"_s}, {u"500"_s, 500, u"500"_s}};
+        = {{u""_s, 20000, u"20000"_s}, {u"500"_s, 500, u"500"_s}, {u"-7"_s, 20000, u"-7"_s}};
     for (const auto &[setting, limit, stored] : cases) {
         Set(u"Settings/LargeFile", setting);
         Start();
@@ -250,6 +252,7 @@ TEST_F(StartUp, CommandLineOpensAFile)
 TEST_F(StartUp, WindowComesBack)
 {
     const auto twips = [](int pixels) { return QString::number(pixels * 15); };
+    const int title = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
     struct Case
     {
         const char *row;
@@ -258,12 +261,12 @@ TEST_F(StartUp, WindowComesBack)
     };
     const Case cases[] = {
         {"as stored", {twips(100), twips(50), twips(400), twips(500)}, {100, 50, 400, 500}},
-        {"nothing stored", {u""_s, u""_s, u""_s, u""_s}, {0, 0, 800, 650}},
-        {"texts where numbers belong", {u"a"_s, u"b"_s, u"1e"_s, u"-"_s}, {0, 0, 800, 650}},
+        {"nothing stored", {u""_s, u""_s, u""_s, u""_s}, {0, title, 800, 650}},
+        {"texts where numbers belong", {u"a"_s, u"b"_s, u"1e"_s, u"-"_s}, {0, title, 800, 650}},
         {"off the right", {twips(3000), twips(2000), twips(400), twips(500)}, {400, 300, 400, 500}},
-        {"off the left", {twips(-1000), twips(-9), twips(400), twips(500)}, {0, 0, 400, 500}},
-        {"too large", {u"0"_s, u"0"_s, twips(5000), u"2147483647"_s}, {0, 0, 800, 800}},
-        {"too small", {u"0"_s, u"0"_s, u"0"_s, u"-2147483648"_s}, {0, 0, 340, 300}},
+        {"off the left", {twips(-1000), twips(-9), twips(400), twips(500)}, {0, title, 400, 500}},
+        {"too large", {u"0"_s, u"0"_s, twips(5000), u"2147483647"_s}, {0, title, 800, 800 - title}},
+        {"too small", {u"0"_s, u"0"_s, u"0"_s, u"-2147483648"_s}, {0, title, 340, 300}},
     };
     ASSERT_EQ(QGuiApplication::primaryScreen()->availableGeometry(), QRect(0, 0, 800, 800));
     Set(u"Settings/WindowState", u"0");
@@ -299,7 +302,7 @@ TEST_F(StartUp, DamagedFilesLeaveAWindow)
         {"one line", "Datei\n", {}, u"Datei"_s, u"&About "_s},
         {"a line short", lines, "not an icon", u"Line 1"_s, u"&About "_s},
         {"many lines", lines.repeated(115), "\0\0\1\0\xFF\xFF", u"Line 1"_s, u"Line 1"_s},
-        {"binary", QByteArray("\0\xFF\1\"\n", 5).repeated(999), {}, {}, {}},
+        {"binary", QByteArray("\0\xFF\1\"\n", 5).repeated(999), {}, u"&File"_s, u"&About "_s},
     };
     for (const Case &row : cases) {
         SCOPED_TRACE(row.row);
@@ -309,12 +312,22 @@ TEST_F(StartUp, DamagedFilesLeaveAWindow)
         Set(u"Settings/Skin", u"Torn");
         Start();
         EXPECT_FALSE(window->grab().isNull());
-        if (!row.first.isEmpty()) {
-            EXPECT_EQ(Find<QMenu>(u"mnuFile"_s).title(), row.first);
-            EXPECT_EQ(Find<QAction>(u"mnuHelpAbout"_s).text(), row.last);
-        }
+        EXPECT_EQ(Find<QMenu>(u"mnuFile"_s).title(), row.first);
+        EXPECT_EQ(Find<QAction>(u"mnuHelpAbout"_s).text(), row.last);
         Stop();
     }
+}
+
+TEST_F(StartUp, LanguageFileNamesTheButtonsToo)
+{
+    ASSERT_EQ(WriteAuthorFile(AppPath(u"language.lng"), "&Datei\n&Neu\n&Oeffnen...\n"), QString());
+    Start();
+    for (const QString &bar : {u"Toolbar1"_s, u"NoWindows"_s}) {
+        const QList<QAction *> buttons = Find<QToolBar>(bar).actions();
+        EXPECT_EQ(buttons[0]->toolTip(), u"Neu"_s);
+        EXPECT_EQ(buttons[1]->toolTip(), u"Oeffnen"_s);
+    }
+    EXPECT_EQ(Find<QToolBar>(u"Toolbar1"_s).actions()[2]->toolTip(), u"Save"_s);
 }
 
 TEST_F(StartUp, FirstWindowIsMaximisedWithItsToolbox)

@@ -4,6 +4,7 @@
 #include "editor/LargeFile.h"
 #include "support/AuthorFile.h"
 #include "support/ColourButton.h"
+#include "support/Help.h"
 #include "support/Paths.h"
 #include "support/SettingsStore.h"
 #include "tests/support/FreshHome.h"
@@ -316,6 +317,12 @@ TEST_F(frmOptionsTest, ButtonsThatActAtOnce)
     Click(dialog, u"Command3"_s);
     EXPECT_TRUE(isCleared);
     EXPECT_EQ(GetSetting(u"Recent", u"Recent1", u"none"_s), QString());
+
+    QString topic;
+    SetHelpHandler([&topic](HelpPlace, const QString &keyword) { topic = keyword; });
+    Click(dialog, u"Command4"_s);
+    SetHelpHandler({});
+    EXPECT_EQ(topic, u"OPTIONS"_s);
 
     ASSERT_EQ(WriteAuthorFile(AppPath(u"files.dat"), "x"), QString());
     Click(dialog, u"Command2"_s);

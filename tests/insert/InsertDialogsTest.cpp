@@ -1,5 +1,6 @@
 #include "support/Paths.h"
 #include "support/Pictures.h"
+#include "tags/frmEditTag.h"
 #include "tests/app/MainWindowFixture.h"
 
 #include <QApplication>
@@ -7,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 using namespace brenix;
@@ -84,6 +86,13 @@ TEST_F(InsertDialogs, Hyperlink)
     });
     EXPECT_EQ(Text(), u"<a name=\"top\">x</a><a href=\"#top\"></a>"_s);
     EXPECT_EQ(Read(AppPath(u"Files.dat")).count("example"), 1) << "the recent addresses are kept";
+
+    QDir().remove(AppPath(u"Files.dat"));
+    QFile::copy(Write(u"long"_s, QByteArray(4000, 'x')), AppPath(u"Files.dat"));
+    for (const QString &command : {u"mnuInsertHyperlink"_s, u"mnuInsertImage"_s})
+        Run(command, [](QWidget &dialog) {
+            EXPECT_LE(dialog.width(), dialog.screen()->availableSize().width());
+        });
 }
 
 TEST_F(InsertDialogs, EditTag)
@@ -108,6 +117,24 @@ TEST_F(InsertDialogs, EditTag)
         EXPECT_EQ(boxes.asked, QStringList(message));
         EXPECT_EQ(Text(), QString::fromLatin1(page));
     }
+    StartWith("<table Border=\"1\">", 3);
+    Run(u"mnuEditTag"_s, [](QWidget &dialog) {
+        dialog.findChild<QWidget *>(u"Combo1"_s)->setFocus();
+        Tab(dialog);
+        Enter(dialog);
+    });
+    EXPECT_EQ(Text(), u"<table Border=\"1\">"_s) << "a name keeps its case";
+
+    const QString noStartTag = u"You must place the cursor inside a starttag (Eg. <BODY>)"_s;
+    const std::pair<QByteArray, QString> refusals[]
+        = {{"</b>", noStartTag}, {"", noStartTag}, {"<! x>", u"Cannot edit comment tags"_s}};
+    for (const auto &[page, message] : refusals) {
+        StartWith(page, 0, int(page.size()));
+        boxes.asked.clear();
+        EXPECT_EQ(frmEditTag(Active()).exec(), QDialog::Rejected);
+        EXPECT_EQ(boxes.asked, QStringList(message));
+    }
+
     StartWith("<b>bold</b> text", 0, 11);
     Trigger(u"mnuEditTag"_s);
     EXPECT_EQ(Text(), u"<b>bold</b> text"_s) << "a selection that is no tag";
@@ -123,6 +150,7 @@ TEST_F(InsertDialogs, Image)
     Write(u"huge.png"_s, huge);
     const QByteArray jpeg = Read(folder.filePath(u"p.jpg"_s));
     Write(u"torn.jpg"_s, jpeg.first(jpeg.size() / 2));
+    Write(u"cut.jpg"_s, jpeg.chopped(3)); // within the scan
 
     const std::pair<QString, QString> cases[] = {{u"p.png"_s, u"12x7"_s},
                                                  {u"p.jpg"_s, u"12x7"_s},
@@ -130,6 +158,7 @@ TEST_F(InsertDialogs, Image)
                                                  {u"p.svg"_s, u"12x7"_s},
                                                  {u"huge.png"_s, u"x"_s},
                                                  {u"torn.jpg"_s, u"x"_s},
+                                                 {u"cut.jpg"_s, u"x"_s},
                                                  {u"missing.gif"_s, u"x"_s}};
     for (const auto &[name, size] : cases) {
         SCOPED_TRACE(qPrintable(name));
@@ -152,6 +181,9 @@ TEST_F(InsertDialogs, Image)
                       u"<img src=\"%1\" alt=\"image: %1 (12x7)\" border=\"\" height=\"7\" "
                       "width=\"12\">"_s.arg(name));
     }
+    StartWith("<img src=\"p.png\" align=\"absmiddle\">", 3);
+    Run(u"mnuEditTag"_s, [](QWidget &dialog) { Enter(dialog); });
+    EXPECT_EQ(Text(), u"<img src=\"p.png\" alt=\"\" border=\"\" align=\"Absmiddle\">"_s);
 }
 
 TEST_F(InsertDialogs, TagAndDesigner)
@@ -173,6 +205,9 @@ TEST_F(InsertDialogs, TagAndDesigner)
         dialog.findChild<QPushButton *>(u"Command1"_s)->click();
         auto *attributes = dialog.findChild<QListWidget *>(u"List2"_s);
         EXPECT_EQ(attributes->count(), 11);
+        auto *colour = dialog.findChild<QLineEdit *>(u"Text3"_s);
+        Type(*colour, u"#fG0 -A"_s);
+        EXPECT_EQ(colour->text(), u"#f0A"_s);
         for (const QString &name : {u"noshade"_s, u"width"_s}) {
             attributes->setCurrentItem(attributes->findItems(name, Qt::MatchExactly).value(0));
             dialog.findChild<QLineEdit *>(u"Text1"_s)->setText(u"9"_s);

@@ -114,10 +114,6 @@ TEST(TagDesigner, AsksForAValueAsItFits)
         EXPECT_EQ(PanelOfAttribute(row.attribute), row.panel) << row.attribute.toStdString();
         EXPECT_EQ(DropValues(row.attribute), row.values) << row.attribute.toStdString();
     }
-    for (const QChar key : u"0fFaA9#\b"_s)
-        EXPECT_TRUE(IsColourKey(key));
-    for (const QChar key : u"gG \r"_s)
-        EXPECT_FALSE(IsColourKey(key));
 }
 
 TEST(TagDesigner, WritesTheTagAsItWasCollected)
