@@ -20,7 +20,7 @@ namespace {
 
     constexpr int PictureSide = 73; // 1100 twips
     constexpr int FrameWidth = 1;
-    constexpr int BesideCaret = 3; // 38 twips behind the caret
+    constexpr int BesideCaret = 31; // 470 twips behind the caret
     constexpr int BelowCaretTop = 20; // 300 twips
     constexpr int LineGap = 2;
     constexpr QSize SwatchSize(56, 22);

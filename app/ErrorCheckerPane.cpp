@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QPointer>
 #include <QPushButton>
 
@@ -94,10 +95,12 @@ void ErrorCheckerPane::Run(Checker checker)
     m_button->setEnabled(true);
     m_button->setText(StopCaption);
     const QPointer self(this);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const CheckReport report = checker(page->rtfText().Text(), page->Caption(), [self] {
         QCoreApplication::processEvents();
         return self && self->IsRunning() && self->window()->isVisible();
     });
+    QGuiApplication::restoreOverrideCursor();
     if (!self)
         return;
     m_button->setText(CheckCaption);

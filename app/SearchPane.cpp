@@ -17,6 +17,16 @@ using namespace Qt::StringLiterals;
 
 namespace brenix {
 
+namespace {
+
+    // A pasted text has the line ends of where it was copied; in the page each is CR LF.
+    QString TextOf(const QLineEdit &field)
+    {
+        return field.text().replace(u"\r\n"_s, u"\n"_s).replace(u"\n"_s, u"\r\n"_s);
+    }
+
+} // namespace
+
 SearchPane::SearchPane(ActivePage activePage, QWidget *parent)
     : QWidget(parent)
     , m_activePage(std::move(activePage))
@@ -99,7 +109,7 @@ void SearchPane::Open(const QString &text)
 
 QString SearchPane::SearchText() const
 {
-    return m_text->text();
+    return TextOf(*m_text);
 }
 
 void SearchPane::SetSearchText(const QString &text)
@@ -134,8 +144,8 @@ void SearchPane::ReplaceInPage()
     SourceView &source = page->rtfText();
     const QString text = SearchText();
     if (m_all->isChecked())
-        ReplaceAll(source, text, m_replacement->text(), LetEventsRun);
-    else if (!ReplaceNext(source, text, m_replacement->text(), m_fromTop->isChecked()))
+        ReplaceAll(source, text, TextOf(*m_replacement), LetEventsRun);
+    else if (!ReplaceNext(source, text, TextOf(*m_replacement), m_fromTop->isChecked()))
         SayNotFound(u'"' + text + u'"');
     source.SetFocus();
 }

@@ -1,10 +1,8 @@
 #include "app/SkinIcons.h"
 
+#include "app/LazyIcon.h"
 #include "support/Paths.h"
 #include "support/SettingsStore.h"
-
-#include <QIconEngine>
-#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -12,51 +10,10 @@ namespace brenix {
 
 namespace {
 
-    // Reads its file when it is first drawn: looking into a dozen files at once would hold up the
-    // window.
-    class FileIconEngine : public QIconEngine
-    {
-    public:
-        explicit FileIconEngine(const QString &path)
-            : m_path(path)
-        {
-        }
-        void paint(QPainter *painter,
-                   const QRect &rect,
-                   QIcon::Mode mode,
-                   QIcon::State state) override
-        {
-            Icon().paint(painter, rect, Qt::AlignCenter, mode, state);
-        }
-        QPixmap scaledPixmap(const QSize &size,
-                             QIcon::Mode mode,
-                             QIcon::State state,
-                             qreal scale) override
-        {
-            return Icon().pixmap(size / scale, scale, mode, state);
-        }
-        QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
-        {
-            return scaledPixmap(size, mode, state, 1);
-        }
-        QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override { return size; }
-        QIconEngine *clone() const override { return new FileIconEngine(m_path); }
-
-    private:
-        const QIcon &Icon()
-        {
-            if (m_icon.isNull())
-                m_icon = QIcon(m_path);
-            return m_icon;
-        }
-
-        QString m_path;
-        QIcon m_icon;
-    };
-
+    // Looking into a dozen files at once would hold up the window.
     QIcon FileIcon(const QString &path)
     {
-        return QIcon(new FileIconEngine(path));
+        return LazyIcon([path] { return QIcon(path); });
     }
 
 } // namespace

@@ -16,8 +16,9 @@ namespace brenix {
 namespace {
 
     constexpr int BlinkTime = 700; // ms
+    constexpr QSize ArrowSize(10, 10); // leaves room for the longest title
 
-}
+} // namespace
 
 Toolbox::Toolbox(QWidget *parent)
     : QWidget(parent)
@@ -50,6 +51,7 @@ void Toolbox::BuildTitleBar()
     m_arrow->setObjectName(u"Image1"_s);
     m_arrow->setAutoRaise(true);
     m_arrow->setArrowType(Qt::DownArrow);
+    m_arrow->setIconSize(ArrowSize);
     m_arrow->setToolTip(u"Choose what the ToolBox shows"_s);
     m_arrow->setAccessibleName(u"Panes"_s);
     // A press while the menu is open closes it, and must not open it again.

@@ -59,8 +59,6 @@ public:
     /// stay; after true, closing asks nothing, until `StayOpen`.
     bool AgreeToClose();
     void StayOpen() { m_mayClose = false; }
-    /// Hands the title on to the main window, which takes none while it is hidden.
-    void ShowTitle();
     /// Sets font, colours, language and wrapping from the settings.
     void ConfigureSource();
 
@@ -93,6 +91,7 @@ private:
     void OnSourceChange();
     void OnRefresher();
     void FollowCaption();
+    void ShowTitle();
     void SaveByItself();
     bool BringDesignToSource();
     bool HoldsDesignText();

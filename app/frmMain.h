@@ -45,7 +45,8 @@ public:
     frmMain();
     ~frmMain() override;
 
-    /// The start-up steps, in their order; each says what it does on the splash.
+    /// The start-up steps, in their order; each says what it does on the splash. The window is
+    /// shown before the last ones, which open what there is to open.
     void LoadSteps(frmSplash &splash, const CommandLine &commandLine);
 
     /// Null when no document is open.
@@ -73,7 +74,6 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void showEvent(QShowEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -107,6 +107,7 @@ private:
     void OpenAtStart(frmSplash &splash, const CommandLine &commandLine);
     void OpenLastEdited();
     void ShowTips();
+    void FinishStart();
     void StoreWindow();
 
     // documents

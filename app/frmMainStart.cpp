@@ -90,9 +90,12 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
     splash.Say(u"Loading TidyTools presets..."_s);
     splash.Say(u"Loading styles..."_s);
     splash.Say(u"Finished!"_s);
+    // The desktop brings the window up while the page is made; nothing is drawn before both are.
+    show();
     OpenAtStart(splash, commandLine);
     splash.Say(u"Loading tips..."_s);
     ShowTips();
+    QTimer::singleShot(0, this, &frmMain::FinishStart);
 }
 
 void frmMain::ReadLanguageFile()
@@ -216,20 +219,16 @@ void frmMain::ShowTips()
     m_tipWhenShown = frmTip::IsWanted();
 }
 
-void frmMain::showEvent(QShowEvent *event)
+// What the first picture of the window does not need, and what stands over the window.
+void frmMain::FinishStart()
 {
-    QMainWindow::showEvent(event);
-    ForActive([](frmDocument &document) { document.ShowTitle(); });
-    // What the first picture of the window does not need.
-    QTimer::singleShot(0, this, [this] {
-        setWindowIcon(QIcon(AppPath(u"brenix.ico")));
-        for (QMdiSubWindow *window : m_area->subWindowList())
-            window->setWindowIcon(windowIcon());
-        if (std::exchange(m_openWhenShown, false))
-            OpenDoc();
-        if (std::exchange(m_tipWhenShown, false))
-            frmTip(this).exec();
-    });
+    setWindowIcon(QIcon(AppPath(u"brenix.ico")));
+    for (QMdiSubWindow *window : m_area->subWindowList())
+        window->setWindowIcon(windowIcon());
+    if (std::exchange(m_openWhenShown, false))
+        OpenDoc();
+    if (std::exchange(m_tipWhenShown, false))
+        frmTip(this).exec();
 }
 
 // Every page is asked for before the first one goes: Cancel keeps them all.

@@ -1,4 +1,5 @@
 #include "app/CommandLine.h"
+#include "app/LazyIconStyle.h"
 #include "app/frmMain.h"
 #include "app/frmSplash.h"
 #include "support/Paths.h"
@@ -58,6 +59,7 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
 #endif
     QApplication application(argc, argv);
+    QApplication::setStyle(new brenix::LazyIconStyle);
     QApplication::setApplicationName(QStringLiteral("Brenix"));
     QApplication::setApplicationVersion(QStringLiteral(BRENIX_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -71,6 +73,5 @@ int main(int argc, char **argv)
         &window, &brenix::frmMain::Closed, &application, &QApplication::quit, Qt::QueuedConnection);
     window.LoadSteps(*splash, brenix::ReadCommandLine(QApplication::arguments().mid(1)));
     splash.reset();
-    window.show();
     return QApplication::exec();
 }

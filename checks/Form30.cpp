@@ -99,7 +99,7 @@ void Form30::Scan()
                              .file = FileOfPage(m_page),
                              .folder = LinkFolder(m_page.Folder())};
     m_progress->setMaximum(qMax(1, int(page.text.size())));
-    RowBuffer<QString> rows([this](const QStringList &lines) { m_files->addItems(lines); });
+    RowBuffer<QString> rows([this](const QStringList &lines) { AddLines(*m_files, lines); });
     const EstimateListener listener{.report = [&rows](const QString &line) { rows.Add(line); },
                                     .document
                                     = [this](qint64 size) { m_size->setText(Kilobytes(size)); },

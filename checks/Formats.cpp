@@ -142,19 +142,27 @@ namespace {
         return JoinLines(text, {.tabsAreBlanks = true, .reduced = ReducedInCompact}, pulse);
     }
 
+    // Where tags touch, there is a break between each two: too many to append them one by one.
     QString WithTagsOnLines(QStringView text, Pulse &pulse)
     {
-        QString result;
-        result.reserve(text.size() + text.size() / 4);
-        qsizetype done = 0;
-        for (qsizetype tag = text.indexOf(u'<'); tag >= 0 && pulse.Step();
-             tag = text.indexOf(u'<', tag + 1)) {
-            if (tag == 0 || text[tag - 1] != u'>')
-                continue;
-            result.append(text.sliced(done, tag - done)).append(u"\r\n");
-            done = tag;
+        const auto touch = [](QChar left, QChar right) { return left == u'>' && right == u'<'; };
+        qsizetype breaks = 0;
+        for (qsizetype i = 1; i < text.size(); ++i)
+            breaks += touch(text[i - 1], text[i]);
+        QString result(text.size() + 2 * breaks, Qt::Uninitialized);
+        QChar *end = result.data();
+        QChar last;
+        for (const QChar unit : text) {
+            if (touch(last, unit)) {
+                if (!pulse.Step())
+                    return {};
+                *end++ = u'\r';
+                *end++ = u'\n';
+            }
+            *end++ = unit;
+            last = unit;
         }
-        return result.append(text.sliced(done));
+        return result;
     }
 
     bool Simple(QString &text, Pulse &pulse)

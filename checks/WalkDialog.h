@@ -3,6 +3,8 @@
 #include "checks/Pulse.h"
 #include "support/Form.h"
 
+class QListWidget;
+
 namespace brenix {
 
 /// A dialog that goes through much at once while its window stays usable. Closing it ends the walk.
@@ -18,6 +20,9 @@ protected:
     GoOn LetEventsRun();
     /// Does the work when the dialog has opened.
     void StartWhenShown(std::function<void()> work);
+    /// Adds lines to a list whose rows are all of one size, which becomes that of the longest line:
+    /// the list can be scrolled to its end.
+    static void AddLines(QListWidget &list, const QStringList &lines);
     void showEvent(QShowEvent *event) override;
 
 private:

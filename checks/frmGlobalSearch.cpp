@@ -104,7 +104,7 @@ bool frmGlobalSearch::Accepted()
     m_isWorking = true;
     AllowStart();
     m_report->clear();
-    RowBuffer<QString> rows([this](const QStringList &lines) { m_report->addItems(lines); });
+    RowBuffer<QString> rows([this](const QStringList &lines) { AddLines(*m_report, lines); });
     const GlobalReplaceListener listener{
         .report = [&rows](const QString &line) { rows.Add(Cut(line)); },
         .cannotEdit = [](const QString &message) { MsgBox(message); },

@@ -15,6 +15,14 @@ namespace {
 
     constexpr int MostBlanks = 1000; // for one Tab, whatever its width is set to
 
+    // The two kinds of boxes can do the same, but share no class that says so.
+    template <typename Action> auto On(QAbstractScrollArea &box, Action action)
+    {
+        if (auto *plain = qobject_cast<QPlainTextEdit *>(&box))
+            return action(*plain);
+        return action(static_cast<QTextEdit &>(box));
+    }
+
     int StartOf(const QTextBlock &block)
     {
         return block.position() + block.blockNumber();
@@ -27,12 +35,7 @@ namespace {
 
 } // namespace
 
-CRtfEx::CRtfEx(QPlainTextEdit *box)
-{
-    SetTextbox(box);
-}
-
-void CRtfEx::SetTextbox(QPlainTextEdit *box)
+void CRtfEx::Take(QAbstractScrollArea *box)
 {
     if (m_box)
         m_box->removeEventFilter(this);
@@ -49,12 +52,13 @@ void CRtfEx::SetTabChar(const QString &text)
 
 int CRtfEx::LineCount() const
 {
-    return m_box ? m_box->blockCount() : 0;
+    return m_box ? Document()->blockCount() : 0;
 }
 
 int CRtfEx::TopLine() const
 {
-    return m_box ? m_box->cursorForPosition(QPoint(0, 0)).blockNumber() : 0;
+    const auto atTop = [](const auto &box) { return box.cursorForPosition(QPoint(0, 0)); };
+    return m_box ? On(*m_box, atTop).blockNumber() : 0;
 }
 
 int CRtfEx::GetLineFromChar(int position) const
@@ -102,7 +106,7 @@ void CRtfEx::DelLine(int line)
                         QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
     cursor.setPosition(DocumentPosition(start));
-    m_box->setTextCursor(cursor);
+    SetCursor(cursor);
 }
 
 void CRtfEx::SelectLine(int line)
@@ -112,35 +116,36 @@ void CRtfEx::SelectLine(int line)
         return;
     QTextCursor cursor(block);
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    m_box->setTextCursor(cursor);
+    SetCursor(cursor);
 }
 
 bool CRtfEx::CanUndo() const
 {
-    return m_box && m_box->document()->isUndoAvailable();
+    return m_box && Document()->isUndoAvailable();
 }
 
 void CRtfEx::Undo()
 {
     if (m_box)
-        m_box->undo();
+        On(*m_box, [](auto &box) { box.undo(); });
 }
 
 bool CRtfEx::IsDirty() const
 {
-    return m_box && m_box->document()->isModified();
+    return m_box && Document()->isModified();
 }
 
 void CRtfEx::SetIsDirty(bool dirty)
 {
     if (m_box)
-        m_box->document()->setModified(dirty);
+        Document()->setModified(dirty);
 }
 
 bool CRtfEx::eventFilter(QObject *watched, QEvent *event)
 {
     const bool asked = event->type() == QEvent::ShortcutOverride;
-    if ((!asked && event->type() != QEvent::KeyPress) || watched != m_box || m_box->isReadOnly())
+    const auto isReadOnly = [](const auto &box) { return box.isReadOnly(); };
+    if ((!asked && event->type() != QEvent::KeyPress) || watched != m_box || On(*m_box, isReadOnly))
         return QObject::eventFilter(watched, event);
     const auto &key = static_cast<const QKeyEvent &>(*event);
     const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -185,17 +190,32 @@ void CRtfEx::EnterBlanks()
     SetSelText(QString(std::min(behind == 0 ? m_tabLen : behind, MostBlanks), u' '));
 }
 
+QTextDocument *CRtfEx::Document() const
+{
+    return On(*m_box, [](const auto &box) { return box.document(); });
+}
+
+QTextCursor CRtfEx::Cursor() const
+{
+    return On(*m_box, [](const auto &box) { return box.textCursor(); });
+}
+
+void CRtfEx::SetCursor(const QTextCursor &cursor)
+{
+    On(*m_box, [&cursor](auto &box) { box.setTextCursor(cursor); });
+}
+
 QTextBlock CRtfEx::BlockOf(int line) const
 {
-    return m_box ? m_box->document()->findBlockByNumber(line) : QTextBlock();
+    return m_box ? Document()->findBlockByNumber(line) : QTextBlock();
 }
 
 int CRtfEx::SelStart() const
 {
     if (!m_box)
         return 0;
-    const int start = m_box->textCursor().selectionStart();
-    return start + m_box->document()->findBlock(start).blockNumber();
+    const int start = Cursor().selectionStart();
+    return start + Document()->findBlock(start).blockNumber();
 }
 
 // Between the two units of a line end is before it; outside the text is its nearest end.
@@ -207,8 +227,8 @@ int CRtfEx::DocumentPosition(int position) const
 
 void CRtfEx::SetSelText(const QString &text)
 {
-    m_box->textCursor().insertText(text);
-    m_box->ensureCursorVisible();
+    Cursor().insertText(text);
+    On(*m_box, [](auto &box) { box.ensureCursorVisible(); });
 }
 
 } // namespace brenix

@@ -3,13 +3,14 @@
 #include <QObject>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QTextEdit>
 
 namespace brenix {
 
-/// Line by line operations, and the keys Tab, Enter and Ctrl+Y of an editor, for any plain text
-/// box. Positions count UTF-16 units from 0, a line end as two; lines count from 0, and a line is a
-/// block of the box. Without a box, or for a line that the box lacks, nothing happens and answers
-/// are 0 or empty.
+/// Line by line operations, and the keys Tab, Enter and Ctrl+Y of an editor, for any text box of
+/// several lines, plain or rich. Positions count UTF-16 units from 0, a line end as two; lines
+/// count from 0, and a line is a block of the box. Without a box, or for a line that the box lacks,
+/// nothing happens and answers are 0 or empty.
 ///
 /// Ctrl+Y cuts the line of the caret to the clipboard. Enter takes over the indentation while
 /// KeepIndent is set. Tab inserts blanks while TabChar is a single blank: as many as the caret's
@@ -18,10 +19,14 @@ namespace brenix {
 class CRtfEx : public QObject
 {
 public:
-    explicit CRtfEx(QPlainTextEdit *box = nullptr);
+    CRtfEx() = default;
+    explicit CRtfEx(QPlainTextEdit *box) { SetTextbox(box); }
+    explicit CRtfEx(QTextEdit *box) { SetTextbox(box); }
 
-    QPlainTextEdit *Textbox() const { return m_box; }
-    void SetTextbox(QPlainTextEdit *box);
+    QAbstractScrollArea *Textbox() const { return m_box; }
+    void SetTextbox(QPlainTextEdit *box) { Take(box); }
+    void SetTextbox(QTextEdit *box) { Take(box); }
+    void SetTextbox(std::nullptr_t) { Take(nullptr); }
 
     QString TabChar() const { return m_tabChar; }
     /// Keeps the first character alone; an empty text changes nothing. What stands here before the
@@ -60,6 +65,10 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void Take(QAbstractScrollArea *box);
+    QTextDocument *Document() const;
+    QTextCursor Cursor() const;
+    void SetCursor(const QTextCursor &cursor);
     QTextBlock BlockOf(int line) const;
     int SelStart() const;
     int DocumentPosition(int position) const;
@@ -68,7 +77,7 @@ private:
     void EnterWithIndent();
     void EnterBlanks();
 
-    QPointer<QPlainTextEdit> m_box;
+    QPointer<QAbstractScrollArea> m_box; // a QPlainTextEdit or a QTextEdit
     QString m_tabChar = QStringLiteral("    ");
     int m_tabLen = 4;
     bool m_keepIndent = false;

@@ -64,7 +64,13 @@ namespace {
             | (modifiers.testFlag(Qt::AltModifier) ? int(ShiftBit::Alt) : 0);
     }
 
-    // The character that a key enters; 0 for a key that enters none.
+    bool IsShortcut(const QKeyEvent &event)
+    {
+        const auto modifiers = event.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier;
+        return modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier;
+    }
+
+    // The character that a key enters; 0 for a key that enters none, as a sign with Ctrl held.
     int KeyAsciiOf(const QKeyEvent &event, int keyCode)
     {
         switch (keyCode) {
@@ -76,14 +82,10 @@ namespace {
         case VirtualKey::Delete:
             return 0;
         default:
-            return event.text().isEmpty() ? 0 : event.text().front().unicode();
+            break;
         }
-    }
-
-    bool IsShortcut(const QKeyEvent &event)
-    {
-        const auto modifiers = event.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier;
-        return modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier;
+        const QChar sign = event.text().isEmpty() ? QChar() : event.text().front();
+        return sign >= u' ' && IsShortcut(event) ? 0 : sign.unicode();
     }
 
 } // namespace

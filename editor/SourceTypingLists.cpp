@@ -95,10 +95,15 @@ void SourceTyping::AcceptRow(CompletionLists::Kind kind, const QString &typed, c
 {
     switch (kind) {
     case CompletionLists::Attributes:
-    case CompletionLists::EndTag:
         if (AcceptAttribute(m_source, typed, row))
             ArmValues();
         break;
+    case CompletionLists::EndTag: {
+        // What stands before a "<" is the text between the tags, and stays.
+        const qsizetype open = typed.lastIndexOf(u'<');
+        AcceptAttribute(m_source, open < 0 ? QString() : typed.sliced(open), row);
+        break;
+    }
     case CompletionLists::Tags: {
         const bool closes = IsSettingOn(u"Auto", u"TagInsertGT", false);
         AcceptTag(m_source, typed, row, closes ? u">"_s : QString());

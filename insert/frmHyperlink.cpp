@@ -24,18 +24,13 @@ namespace {
     struct Kind
     {
         LinkKind kind;
-        const char16_t *key;
         const char16_t *caption;
     };
-    constexpr Kind Kinds[] = {{LinkKind::Exist, u"Exist", u"Existing file"},
-                              {LinkKind::Inside, u"Inside", u"Inside Document"},
-                              {LinkKind::Mail, u"Mail", u"Mail Address"}};
+    constexpr Kind Kinds[] = {{LinkKind::Exist, u"Existing file"},
+                              {LinkKind::Inside, u"Inside Document"},
+                              {LinkKind::Mail, u"Mail Address"}};
 
     constexpr int AddressLetters = 40;
-    constexpr char16_t TargetFilter[]
-        = u"All Files (*.*)|*.*|HyperText files (*.html;*.htm)|*.html;*.htm|URL Files "
-          u"(*.url)|*.url|Webfiles (*.xml;*.asp;*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm)|*.xml;*.asp;"
-          u"*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm";
 
 } // namespace
 
@@ -142,8 +137,7 @@ void frmHyperlink::ShowKind()
 
 void frmHyperlink::ChooseTarget()
 {
-    const QString path
-        = OpenFileName({.title = u"Link to file"_s, .filter = QString::fromUtf16(TargetFilter)});
+    const QString path = OpenFileName(LinkTargets());
     if (path.isEmpty())
         return;
     if (path.endsWith(u"url", Qt::CaseInsensitive)) {

@@ -154,7 +154,9 @@ namespace {
         chooser.setOption(QFileDialog::ShowDirsOnly, mode == QFileDialog::Directory);
         // The captions name their patterns themselves.
         chooser.setOption(QFileDialog::HideNameFilterDetails);
-        chooser.setNameFilters(NameFilters(dialog.filter));
+        const QStringList filters = NameFilters(dialog.filter);
+        chooser.setNameFilters(filters);
+        chooser.selectNameFilter(filters.value(dialog.filterIndex - 1));
         chooser.setDefaultSuffix(dialog.defaultSuffix);
         if (!LastFolder().isEmpty())
             chooser.setDirectory(LastFolder());

@@ -37,6 +37,7 @@ struct FileDialog
     QString filter = {};
     QString name = {};
     QString defaultSuffix = {}; ///< without a point; added to a name that has none
+    int filterIndex = 1; ///< of the filter that is chosen at first
 };
 QString OpenFileName(const FileDialog &dialog);
 QString SaveFileName(const FileDialog &dialog); ///< asks before an existing file is overwritten

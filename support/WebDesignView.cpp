@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -205,6 +206,16 @@ void WebDesignView::childEvent(QChildEvent *event)
     QWebEngineView::childEvent(event);
     if (event->added())
         event->child()->installEventFilter(this);
+}
+
+// Files are for the window; what is dragged within the page may be a link to one.
+void WebDesignView::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (!event->source() && !urls.isEmpty() && urls.constFirst().isLocalFile())
+        event->ignore();
+    else
+        QWebEngineView::dragEnterEvent(event);
 }
 
 // The engine would claim these keys before the program's menus see them, and its own clipboard and

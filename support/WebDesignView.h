@@ -43,6 +43,7 @@ public:
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void childEvent(QChildEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

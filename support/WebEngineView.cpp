@@ -61,6 +61,8 @@ WebEngineView::WebEngineView(std::shared_ptr<QWebEngineProfile> profile, QWidget
     , m_profile(std::move(profile))
 {
     MakePage();
+    // The engine would show what is dropped; the window opens it.
+    setAcceptDrops(false);
     m_start.setSingleShot(true);
     m_start.callOnTimeout(this, &WebEngineView::StartWanted);
     m_patience.setSingleShot(true);

@@ -18,6 +18,16 @@ QString LinkTo(const DocumentModel &page, const QString &path)
     return LinkAddress(page, path);
 }
 
+FileDialog LinkTargets()
+{
+    return {.title = u"Link to file"_s,
+            .filter = u"All Files (*.*)|*.*|HyperText files (*.html;*.htm)|*.html;*.htm|"
+                      "URL Files (*.url)|*.url|"
+                      "Webfiles (*.xml;*.asp;*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm)|"
+                      "*.xml;*.asp;*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm"_s,
+            .filterIndex = 2};
+}
+
 QString ChooseLink(const DocumentModel &page, const FileDialog &dialog)
 {
     const QString path = OpenFileName(dialog);

@@ -28,11 +28,6 @@ namespace {
     enum Step { TagStepNumber, AttributeStepNumber };
     enum Panel { Drop, Colour, Hyper, NoOption, Default };
 
-    constexpr char16_t TargetFilter[]
-        = u"All Files (*.*)|*.*|HyperText files (*.html;*.htm)|*.html;*.htm|URL Files "
-          u"(*.url)|*.url|Webfiles (*.xml;*.asp;*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm)|*.xml;*.asp;"
-          u"*.pl;*.gif;*.jpg;*.jpeg;*.html;*.htm";
-
     Panel PanelNumber(DesignerPanel panel)
     {
         switch (panel) {
@@ -115,7 +110,8 @@ QWidget *frmTagDesigner::TagStep()
     connect(m_tags, &QListWidget::currentRowChanged, this, [this](int row) {
         m_forward->setEnabled(row >= 0);
     });
-    connect(m_tags, &QListWidget::itemDoubleClicked, this, &frmTagDesigner::Forward);
+    connect(m_tags, &QListWidget::itemActivated, this, &frmTagDesigner::Forward);
+    connect(m_find, &QLineEdit::returnPressed, this, &frmTagDesigner::Forward);
     return Page(u"Wiz1"_s, QBoxLayout::TopToBottom, {m_find, m_tags});
 }
 
@@ -170,7 +166,7 @@ QWidget *frmTagDesigner::DropPanel()
     QPushButton *insert = InsertButton(u"Command4"_s, [this] {
         return m_drop->currentItem() ? m_drop->currentItem()->text() : QString();
     });
-    connect(m_drop, &QListWidget::itemDoubleClicked, insert, &QPushButton::click);
+    connect(m_drop, &QListWidget::itemActivated, insert, &QPushButton::click);
     return Page(u"Drop"_s, QBoxLayout::TopToBottom, {m_drop, insert});
 }
 
@@ -195,12 +191,12 @@ QWidget *frmTagDesigner::HyperPanel()
 {
     m_hyper = Named(u"Text4"_s, new QLineEdit(u"http://"_s));
     m_hyper->setAccessibleName(u"Address"_s);
+    QPushButton *insert = InsertButton(u"Command8"_s, [this] { return m_hyper->text(); });
+    connect(m_hyper, &QLineEdit::returnPressed, insert, &QPushButton::click);
     QPushButton *choose = ChooserButton(u"FButton2"_s);
     choose->setAccessibleName(u"Choose a file"_s);
     connect(choose, &QPushButton::clicked, this, &frmTagDesigner::ChooseTarget);
-    return Page(u"Hyper"_s,
-                QBoxLayout::LeftToRight,
-                {m_hyper, choose, InsertButton(u"Command8"_s, [this] { return m_hyper->text(); })});
+    return Page(u"Hyper"_s, QBoxLayout::LeftToRight, {m_hyper, choose, insert});
 }
 
 QWidget *frmTagDesigner::NoOptionPanel()
@@ -261,7 +257,8 @@ void frmTagDesigner::Forward()
     m_attributes->clear();
     m_attributes->addItems(DialogAttributesOfTag(tag->text()));
     ShowStep(AttributeStepNumber);
-    ShowPanel();
+    ShowPanel(); // also for a tag without attributes
+    m_attributes->setCurrentRow(0);
     m_attributes->setFocus();
 }
 
@@ -285,8 +282,7 @@ void frmTagDesigner::ShowPanel()
 
 void frmTagDesigner::ChooseTarget()
 {
-    const QString path
-        = OpenFileName({.title = u"Link to file"_s, .filter = QString::fromUtf16(TargetFilter)});
+    const QString path = OpenFileName(LinkTargets());
     if (path.isEmpty())
         return;
     if (!path.endsWith(u"url")) {

@@ -122,6 +122,9 @@ TEST_F(CaretStatus, NotesStayBesideTheCaret)
             EXPECT_TRUE(source.geometry().contains(note.geometry()));
             EXPECT_FALSE(note.geometry().intersects(caret)) << "the line can be read";
             EXPECT_LE(std::abs(note.geometry().center().y() - caret.center().y()), 100);
+            const bool isEntity = selected.contains(u';');
+            const int side = isEntity ? note.x() : note.x() + note.width();
+            EXPECT_TRUE(!before.isEmpty() || side == caret.x() + 31);
         }
         Select(lines + selected + lines);
         source.verticalScrollBar()->setValue(0);

@@ -5,9 +5,7 @@
 #include "tests/app/MainWindowFixture.h"
 
 #include <QAbstractButton>
-#include <QDropEvent>
 #include <QListWidget>
-#include <QMimeData>
 
 #include <unistd.h>
 
@@ -41,13 +39,7 @@ protected:
     }
     void Drop(const QList<QUrl> &urls)
     {
-        QMimeData data;
-        data.setUrls(urls);
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window.get(), &enter);
-        EXPECT_TRUE(enter.isAccepted());
-        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window.get(), &drop);
+        EXPECT_TRUE(DropFiles(*window, urls));
         Settle();
     }
 };

@@ -115,6 +115,28 @@ TEST_F(MainRoad, ExternalBrowserGetsWhatTheViewShows)
     EXPECT_TRUE(isGiven("<h1>two</h1>")) << "the edit was undone";
 }
 
+TEST_F(MainRoad, FilesDroppedOnAViewAreOpened)
+{
+    const QString path = Write(u"page.html"_s, "<h1>one</h1>");
+    QStringList opened{path};
+    Start(opened);
+    EXPECT_TRUE(Shows(u"one"_s));
+    const std::pair<QString, QString> views[] = {{u"mnuSplitMode"_s, u"rtfText"_s},
+                                                 {u"mnuPreviewMode"_s, u"WebBrowser1"_s},
+                                                 {u"mnuDesignMode"_s, u"Design"_s}};
+    for (const auto &[command, view] : views) {
+        frmDocument *page = Documents()[0];
+        Find<QMdiArea>(u"MDIForm"_s)
+            .setActiveSubWindow(qobject_cast<QMdiSubWindow *>(page->parentWidget()));
+        Trigger(command);
+        opened += Write(view, "dropped");
+        EXPECT_TRUE(DropFiles(*page->findChild<QWidget *>(view),
+                              {QUrl::fromLocalFile(opened.constLast())}));
+        Settle();
+        EXPECT_EQ(Captions(), opened);
+    }
+}
+
 TEST_F(MainRoad, AutomaticRefreshCanBeOff)
 {
     Set(u"Auto/Refresh", u"0");

@@ -5,6 +5,7 @@
 #include "tests/support/FakeTidy.h"
 #include "tests/support/MemoryDocument.h"
 
+#include <QGuiApplication>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
@@ -91,6 +92,7 @@ TEST_F(ErrorChecks, ABuiltInCheckCanBeStopped)
     QString captions;
     const auto checker = [&](const QString &text, const QString &, const GoOn &goOn) {
         captions += pane.CheckButton().text() + text.left(1);
+        EXPECT_TRUE(QGuiApplication::overrideCursor());
         EXPECT_TRUE(goOn());
         pane.CheckButton().click();
         EXPECT_FALSE(goOn());
@@ -98,6 +100,7 @@ TEST_F(ErrorChecks, ABuiltInCheckCanBeStopped)
     };
     pane.AddChecker(u"x", u"Check"_s, checker);
     pane.findChild<QAction *>(u"x"_s)->trigger();
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
     EXPECT_EQ(captions, u"Stopo"_s);
     EXPECT_EQ(pane.CheckButton().text(), u"Check!"_s);
     EXPECT_THAT(Lines(), ElementsAre(u"found (Char: 6)..."_s));

@@ -312,6 +312,20 @@ TEST_F(ToolboxPanesTest, SearchFindsAndLists)
     EXPECT_TRUE(pane.isVisible());
 }
 
+TEST_F(ToolboxPanesTest, PastedLinesAreFoundAndReplaced)
+{
+    StartWith(u"a\r\nb\r\na\r\nb"_s);
+    QWidget &pane = Show(u"mnuToolBoxSearch"_s);
+    Copy(u"a\nb"_s);
+    In<QLineEdit>(pane, u"Text1"_s).paste();
+    EXPECT_EQ(Active().Source().SelLength(), 4);
+    Copy(u"c\nd"_s);
+    In<QLineEdit>(pane, u"Text2"_s).paste();
+    In<QCheckBox>(pane, u"Check1"_s).setChecked(true);
+    In<QPushButton>(pane, u"Command2"_s).click();
+    EXPECT_EQ(Active().Source().Text(), u"c\r\nd\r\nc\r\nd"_s);
+}
+
 TEST_F(ToolboxPanesTest, LiveSearchIsKept)
 {
     for (const QString &stored : {u"1"_s, u"0"_s}) {

@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A box with a helper; the caret is "|", or the selection stands between "[" and "]".
-struct Box
+template <typename TextBox> struct BoxOf
 {
-    explicit Box(QString marked)
+    explicit BoxOf(QString marked)
         : helper(&box)
     {
         const int start = int(std::max(marked.indexOf(u'|'), marked.indexOf(u'[')));
@@ -42,32 +42,33 @@ struct Box
         return text.insert(cursor.selectionStart(), u'[');
     }
 
-    QPlainTextEdit box;
+    TextBox box;
     CRtfEx helper;
 };
+using Box = BoxOf<QPlainTextEdit>;
 
-using Action = std::function<void(Box &)>;
+using Action = std::function<void(QWidget &, CRtfEx &)>;
 
 Action Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {})
 {
-    return [=](Box &box) { Press(box.box, key, modifiers, text); };
+    return [=](QWidget &box, CRtfEx &) { Press(box, key, modifiers, text); };
 }
 
 Action Tab(const QString &tabChar, int tabLen)
 {
-    return [=](Box &box) {
-        box.helper.SetTabChar(tabChar);
-        box.helper.SetTabLen(tabLen);
-        Press(box.box, Qt::Key_Tab, Qt::NoModifier, u"\t"_s);
+    return [=](QWidget &box, CRtfEx &helper) {
+        helper.SetTabChar(tabChar);
+        helper.SetTabLen(tabLen);
+        Press(box, Qt::Key_Tab, Qt::NoModifier, u"\t"_s);
     };
 }
 
 Action EnterWithIndent(const QString &tabChar)
 {
-    return [=](Box &box) {
-        box.helper.SetKeepIndent(true);
-        box.helper.SetTabChar(tabChar);
-        Press(box.box, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
+    return [=](QWidget &box, CRtfEx &helper) {
+        helper.SetKeepIndent(true);
+        helper.SetTabChar(tabChar);
+        Press(box, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
     };
 }
 
@@ -76,8 +77,10 @@ Action EnterWithIndent(const QString &tabChar)
 TEST(CRtfEx, TextBeforeActionTextAfter)
 {
     const auto cut = Key(Qt::Key_Y, Qt::ControlModifier, u"\x19"_s);
-    const auto select = [](int line) { return [=](Box &box) { box.helper.SelectLine(line); }; };
-    const auto remove = [](int line) { return [=](Box &box) { box.helper.DelLine(line); }; };
+    const auto select
+        = [](int line) { return [=](QWidget &, CRtfEx &helper) { helper.SelectLine(line); }; };
+    const auto remove
+        = [](int line) { return [=](QWidget &, CRtfEx &helper) { helper.DelLine(line); }; };
     const struct
     {
         const char *name;
@@ -117,8 +120,11 @@ TEST(CRtfEx, TextBeforeActionTextAfter)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         Box box(row.before);
-        row.action(box);
+        row.action(box.box, box.helper);
         EXPECT_EQ(box.Marked(), row.after);
+        BoxOf<QTextEdit> rich(row.before);
+        row.action(rich.box, rich.helper);
+        EXPECT_EQ(rich.Marked(), row.after) << "in a rich box";
     }
 }
 

@@ -202,7 +202,7 @@ TEST_F(InsertDialogs, TagAndDesigner)
     StartWith("", 0);
     Run(u"mnuTagDesigner"_s, [](QWidget &dialog) {
         TypeInto(dialog, u"hr"_s);
-        dialog.findChild<QPushButton *>(u"Command1"_s)->click();
+        Enter(dialog);
         auto *attributes = dialog.findChild<QListWidget *>(u"List2"_s);
         EXPECT_EQ(attributes->count(), 11);
         auto *colour = dialog.findChild<QLineEdit *>(u"Text3"_s);

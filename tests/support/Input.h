@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QUrl>
 #include <QWidget>
 
 /// Keys and mouse as a widget gets them.
@@ -37,6 +40,18 @@ inline void Click(QWidget &widget, const QPointF &place)
 {
     Mouse(widget, QEvent::MouseButtonPress, place);
     Mouse(widget, QEvent::MouseButtonRelease, place);
+}
+
+/// Files that are dragged over the widget and dropped there. True when the drag was taken.
+inline bool DropFiles(QWidget &widget, const QList<QUrl> &urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &drop);
+    return enter.isAccepted();
 }
 
 /// Drags what is under `from`; both in the widget's parent.

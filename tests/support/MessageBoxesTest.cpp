@@ -142,12 +142,10 @@ TEST(MessageBoxes, CaptionsOfFiltersAreShownOnce)
         ASSERT_NE(types, nullptr);
         EXPECT_EQ(types->itemText(0), u"HTML file (*.html;*.htm)"_s);
         EXPECT_EQ(types->itemText(1), u"All"_s);
+        EXPECT_EQ(types->currentIndex(), 1);
         box->reject();
     });
-    OpenFileName({.title = {},
-                  .filter = u"HTML file (*.html;*.htm)|*.html|All|*.*"_s,
-                  .name = {},
-                  .defaultSuffix = {}});
+    OpenFileName({.filter = u"HTML file (*.html;*.htm)|*.html|All|*.*"_s, .filterIndex = 2});
 }
 
 TEST(MessageBoxes, SavingAddsTheSuffixAndAsksBeforeOverwriting)
