@@ -74,6 +74,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -195,6 +196,8 @@ private:
     QList<QAction *> m_windowItems;
     int m_documentCounter = 0;
     std::optional<bool> m_clipboardHoldsText; // unknown: not asked since it changed
+    bool m_isLoaded = false; // all steps are done
+    bool m_isDrawn = false;
     bool m_openWhenShown = false;
     bool m_tipWhenShown = false;
 };

@@ -95,7 +95,8 @@ void frmMain::LoadSteps(frmSplash &splash, const CommandLine &commandLine)
     OpenAtStart(splash, commandLine);
     splash.Say(u"Loading tips..."_s);
     ShowTips();
-    QTimer::singleShot(0, this, &frmMain::FinishStart);
+    m_isLoaded = true;
+    FinishStart();
 }
 
 void frmMain::ReadLanguageFile()
@@ -219,16 +220,28 @@ void frmMain::ShowTips()
     m_tipWhenShown = frmTip::IsWanted();
 }
 
-// What the first picture of the window does not need, and what stands over the window.
+void frmMain::paintEvent(QPaintEvent *event)
+{
+    QMainWindow::paintEvent(event);
+    if (!std::exchange(m_isDrawn, true))
+        FinishStart();
+}
+
+// What the first picture of the window does not need; and what stands over the window, which has
+// its place on the screen by then.
 void frmMain::FinishStart()
 {
-    setWindowIcon(QIcon(AppPath(u"brenix.ico")));
-    for (QMdiSubWindow *window : m_area->subWindowList())
-        window->setWindowIcon(windowIcon());
-    if (std::exchange(m_openWhenShown, false))
-        OpenDoc();
-    if (std::exchange(m_tipWhenShown, false))
-        frmTip(this).exec();
+    if (!m_isLoaded || !m_isDrawn)
+        return;
+    QTimer::singleShot(0, this, [this] {
+        setWindowIcon(QIcon(AppPath(u"brenix.ico")));
+        for (QMdiSubWindow *window : m_area->subWindowList())
+            window->setWindowIcon(windowIcon());
+        if (std::exchange(m_openWhenShown, false))
+            OpenDoc();
+        if (std::exchange(m_tipWhenShown, false))
+            frmTip(this).exec();
+    });
 }
 
 // Every page is asked for before the first one goes: Cancel keeps them all.
