@@ -1,6 +1,7 @@
 #include "app/DesignTools.h"
 
 #include "app/SkinIcons.h"
+#include "support/ColourText.h"
 #include "support/DesignView.h"
 #include "support/MessageBoxes.h"
 
@@ -87,11 +88,8 @@ QAction *DesignTools::AddView(const char16_t *icon,
 void DesignTools::ChooseTextColour()
 {
     const std::optional<quint32> colour = m_view ? ChooseColour(0) : std::nullopt;
-    if (!colour)
-        return;
-    // Blue stands in the high byte.
-    const QColor chosen(int(*colour & 0xFF), int(*colour >> 8 & 0xFF), int(*colour >> 16 & 0xFF));
-    m_view->ExecCommand(Decmd::SetForeColor, chosen.name());
+    if (colour)
+        m_view->ExecCommand(Decmd::SetForeColor, ColourText(*colour));
 }
 
 void DesignTools::SetView(DesignView *view)

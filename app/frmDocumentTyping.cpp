@@ -2,22 +2,10 @@
 #include "editor/CodeHighlight.h"
 #include "editor/InsertMarkup.h"
 #include "editor/SourceTyping.h"
+#include "support/ColourText.h"
 #include "support/MessageBoxes.h"
 
-using namespace Qt::StringLiterals;
-
 namespace brenix {
-
-namespace {
-
-    // "#", then red, green and blue; a choice comes in blue-green-red order.
-    QString HtmlColour(quint32 colour)
-    {
-        const quint32 rgb = (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
-        return u"#%1"_s.arg(rgb, 6, 16, QChar(u'0')).toUpper();
-    }
-
-} // namespace
 
 void frmDocument::BuildTyping()
 {
@@ -26,7 +14,7 @@ void frmDocument::BuildTyping()
     m_typing->Dialect = [this] { return m_bars.Dialect(); };
     m_typing->InsertColour = [this] {
         if (const auto colour = ChooseColour(0))
-            InsertMarkup(*this, HtmlColour(*colour));
+            InsertMarkup(*this, ColourText(*colour));
     };
 }
 

@@ -3,11 +3,11 @@
 #include "tags/frmEditTag.h"
 #include "tests/app/MainWindowFixture.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 
@@ -52,6 +52,14 @@ protected:
     {
         for (int i = 0; i < times; ++i)
             Press(*dialog.focusWidget(), Qt::Key_Tab);
+    }
+    /// Goes to a button and presses it.
+    static void Push(QWidget &dialog, const QString &name)
+    {
+        auto *button = dialog.findChild<QAbstractButton *>(name);
+        ASSERT_TRUE(button && button->focusPolicy() & Qt::TabFocus) << qPrintable(name);
+        button->setFocus();
+        Press(*button, Qt::Key_Space);
     }
     QString Text() { return Active().Source().Text(); }
 };
@@ -100,7 +108,7 @@ TEST_F(InsertDialogs, EditTag)
     StartWith("<TD width=\"5\" NoWrap align=\"left\">x", 3);
     Run(u"mnuEditTag"_s, [](QWidget &dialog) {
         EXPECT_EQ(dialog.objectName(), u"frmEditTag"_s);
-        dialog.findChild<QPushButton *>(u"Command3"_s)->click();
+        Push(dialog, u"Command3"_s);
         TypeInto(dialog, u"id"_s);
         Tab(dialog);
         TypeInto(dialog, u"cell"_s);
@@ -142,9 +150,12 @@ TEST_F(InsertDialogs, EditTag)
 
 TEST_F(InsertDialogs, Image)
 {
-    for (const char *format : {"png", "jpg", "bmp"})
+    for (const char *format : {"png", "jpg", "bmp", "webp"})
         QImage(12, 7, QImage::Format_RGB32).save(folder.filePath(u"p."_s + QLatin1String(format)));
     Write(u"p.svg"_s, "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"12\" height=\"7\"/>");
+    Write(u"p.gif"_s,
+          QByteArray::fromBase64(
+              "R0lGODlhDAAHAPAAAP8AAAAAACH5BAAAAAAALAAAAAAMAAcAAAIIhI+py+0PVQEAOw=="));
     QByteArray huge = Read(folder.filePath(u"p.png"_s));
     huge.replace(16, 8, QByteArray("\0\0\x75\x30\0\0\x75\x30", 8));
     Write(u"huge.png"_s, huge);
@@ -156,6 +167,8 @@ TEST_F(InsertDialogs, Image)
                                                  {u"p.jpg"_s, u"12x7"_s},
                                                  {u"p.bmp"_s, u"12x7"_s},
                                                  {u"p.svg"_s, u"12x7"_s},
+                                                 {u"p.gif"_s, u"12x7"_s},
+                                                 {u"p.webp"_s, u"12x7"_s},
                                                  {u"huge.png"_s, u"x"_s},
                                                  {u"torn.jpg"_s, u"x"_s},
                                                  {u"cut.jpg"_s, u"x"_s},
@@ -166,8 +179,8 @@ TEST_F(InsertDialogs, Image)
         boxes.asked.clear();
         Run(u"mnuInsertImage"_s, [&, name = name, size = size](QWidget &dialog) {
             TypeInto(dialog, name);
-            dialog.findChild<QPushButton *>(u"ActiveButton2"_s)->click();
-            dialog.findChild<QPushButton *>(u"Command5"_s)->click();
+            Push(dialog, u"ActiveButton2"_s);
+            Push(dialog, u"Command5"_s);
             EXPECT_EQ(dialog.findChild<QLineEdit *>(u"Text2"_s)->text(),
                       u"Image: %1 (%2)"_s.arg(name, size));
             Enter(dialog);
@@ -191,7 +204,7 @@ TEST_F(InsertDialogs, TagAndDesigner)
     StartWith("word", 0, 4);
     Run(u"mnuStartTag"_s, [](QWidget &dialog) {
         TypeInto(dialog, u"b"_s);
-        dialog.findChild<QAbstractButton *>(u"Check1"_s)->click();
+        Push(dialog, u"Check1"_s);
         Enter(dialog);
     });
     EXPECT_EQ(Text(), u"<b>word</b>"_s);
@@ -212,9 +225,9 @@ TEST_F(InsertDialogs, TagAndDesigner)
             attributes->setCurrentItem(attributes->findItems(name, Qt::MatchExactly).value(0));
             dialog.findChild<QLineEdit *>(u"Text1"_s)->setText(u"9"_s);
             const QString insert = name == u"width" ? u"Command5"_s : u"Command6"_s;
-            dialog.findChild<QPushButton *>(insert)->click();
+            Push(dialog, insert);
         }
-        dialog.findChild<QPushButton *>(u"Command1"_s)->click();
+        Push(dialog, u"Command1"_s);
     });
     EXPECT_EQ(Text(), u"<hr noshade width=\"9\" >"_s);
 }
