@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/TextSearch.h"
+#include "tests/support/SourceTree.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -57,7 +58,7 @@ inline QString RandomText(const QStringList &pieces, int most, quint32 seed)
 /// The pages in the folder that BRENIX_PAGES names, and else the project's own.
 inline QStringList RealPages()
 {
-    const QString docs = QStringLiteral(BRENIX_TEST_DATA) + QStringLiteral("/../docs");
+    const QString docs = SourceFile("docs");
     QDirIterator files(qEnvironmentVariable("BRENIX_PAGES", docs),
                        {QStringLiteral("*.html")},
                        QDir::Files,

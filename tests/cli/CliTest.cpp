@@ -1,3 +1,5 @@
+#include "tests/support/SourceTree.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -218,7 +220,7 @@ TEST(CliManual, TellsOfEveryVerb)
     QProcess cli;
     cli.start(QStringLiteral(BRENIX_CLI), {u"--help"_s});
     ASSERT_TRUE(cli.waitForFinished());
-    QFile manual(QStringLiteral(BRENIX_TEST_DATA "/../docs/brenix-cli.1"));
+    QFile manual(SourceFile("docs/brenix-cli.1"));
     ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(manual.readAll());
     int verbs = 0;

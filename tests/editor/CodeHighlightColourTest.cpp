@@ -4,6 +4,7 @@
 #include "support/SettingsStore.h"
 #include "tests/editor/EditorScript.h"
 #include "tests/support/ScriptedBoxes.h"
+#include "tests/support/SourceTree.h"
 
 #include <QFile>
 #include <QScrollBar>
@@ -122,7 +123,7 @@ TEST(CodeHighlightColour, LinesOutOfViewKeepWhatTheyWere)
 
 TEST(CodeHighlightColour, LazyLinesLookLikeTheWholePage)
 {
-    QFile file(QStringLiteral(BRENIX_TEST_DATA "/../docs/sample.html"));
+    QFile file(SourceFile("docs/sample.html"));
     ASSERT_TRUE(file.open(QFile::ReadOnly));
     const QString page = QString::fromUtf8(file.readAll()).replace(u"\n"_s, u"\r\n"_s);
     const QString oneLine = QString(page).replace(u"\r\n"_s, u" "_s).repeated(3);

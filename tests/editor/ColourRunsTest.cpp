@@ -2,6 +2,7 @@
 
 #include "editor/PageText.h"
 #include "tests/editor/NaiveScan.h"
+#include "tests/support/SourceTree.h"
 
 #include <QFile>
 
@@ -91,7 +92,7 @@ TEST(ColourRuns, NothingWithoutALanguage)
 
 TEST(ColourRuns, EveryPrefixOfAPage)
 {
-    QFile file(QStringLiteral(BRENIX_TEST_DATA "/../docs/sample.html"));
+    QFile file(SourceFile("docs/sample.html"));
     ASSERT_TRUE(file.open(QFile::ReadOnly));
     const QString page = TextOf(TextRope(HeldText(QString::fromUtf8(file.readAll()))));
     for (const int language : {1, 2, 3, 4}) {

@@ -3,6 +3,7 @@
 #include "support/SettingsStore.h"
 #include "tests/editor/MarkedSource.h"
 #include "tests/support/FreshHome.h"
+#include "tests/support/SourceTree.h"
 
 #include <QDir>
 
@@ -163,7 +164,7 @@ TEST(MacroInterpreter, EveryInsertionCanBeUndone)
 
 TEST(MacroInterpreter, ShippedMacrosRun)
 {
-    const QDir folder(QStringLiteral(BRENIX_TEST_DATA "/../data/Macro"));
+    const QDir folder(SourceFile("data/Macro"));
     const QStringList names = folder.entryList(QDir::Files);
     EXPECT_GE(names.size(), 6);
     for (const QString &name : names) {
