@@ -34,8 +34,11 @@ void PrintSource(CodeHighlight &source, QWidget *window)
     PrintModule *module = LoadPrintModule();
     if (!module)
         return;
-    if (QPagedPaintDevice *printer = module->AskPrinter(window, source.SelLength() > 0))
-        source.SelPrint(printer);
+    const PrintOrder order = module->AskPrinter(window, source.SelLength() > 0);
+    if (order.printer)
+        source.SelPrint(order.printer,
+                        order.selectionOnly ? CodeHighlight::Printed::Selection
+                                            : CodeHighlight::Printed::Page);
 }
 
 } // namespace brenix

@@ -4,6 +4,7 @@
 #include "editor/LargeFile.h"
 #include "editor/LineEnds.h"
 #include "editor/PageText.h"
+#include "editor/PrintedSource.h"
 #include "editor/SourceLayout.h"
 #include "support/AuthorFile.h"
 #include "support/MessageBoxes.h"
@@ -278,12 +279,17 @@ void CodeHighlight::SetMargin(double twips)
     setLineWrapMode(twips == 0 ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
 }
 
-void CodeHighlight::SelPrint(QPagedPaintDevice *printer)
+void CodeHighlight::SelPrint(QPagedPaintDevice *printer, Printed what)
 {
+    const QTextCursor cursor = textCursor();
+    const bool isSelection = what == Printed::Selection;
+    const int from = isSelection ? cursor.selectionStart() : 0;
+    const int to = isSelection ? cursor.selectionEnd() : m_mirror->Rope().Length();
     // Lines that were never shown have no colours yet.
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+    for (QTextBlock block = document()->findBlock(from); block.isValid() && block.position() <= to;
+         block = block.next())
         m_colours.Lay(block);
-    print(printer);
+    PrintedSource(*document(), *m_mirror, from, to)->print(printer);
 }
 
 int CodeHighlight::LineIndex() const

@@ -89,8 +89,9 @@ public:
     /// The encoding of files that do not tell theirs.
     void CharCode(const QString &code) { m_charCode = code.toLatin1(); }
 
-    /// Prints the text, or its selection where the printer is set to that, with its colours.
-    void SelPrint(QPagedPaintDevice *printer);
+    enum class Printed { Page, Selection };
+    /// Prints the text, or only what is selected of it, with its colours.
+    void SelPrint(QPagedPaintDevice *printer, Printed what);
 
     /// The text of the caret's line, whatever `line` is.
     QString Line(int line) const;

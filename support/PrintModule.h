@@ -7,6 +7,13 @@ class QWidget;
 
 namespace brenix {
 
+/// What the author wants on paper.
+struct PrintOrder
+{
+    QPagedPaintDevice *printer = nullptr; ///< null when the author has given up
+    bool selectionOnly = false;
+};
+
 /// What the print module offers: the system's printer and its dialogs. One printer, with the
 /// settings that the author gave it, lives as long as the program.
 class PrintModule
@@ -14,12 +21,11 @@ class PrintModule
 public:
     virtual ~PrintModule() = default;
     virtual void PageSetup(QWidget *window) = 0;
-    /// Asks how to print, and offers to print the selection where there is one. Null when the
-    /// author gives up.
-    virtual QPagedPaintDevice *AskPrinter(QWidget *window, bool hasSelection) = 0;
+    /// Asks how to print, and offers to print the selection where there is one.
+    virtual PrintOrder AskPrinter(QWidget *window, bool hasSelection) = 0;
 };
 
 } // namespace brenix
 
-#define BrenixPrintModuleId "org.brenix.PrintModule/1"
+#define BrenixPrintModuleId "org.brenix.PrintModule/2"
 Q_DECLARE_INTERFACE(brenix::PrintModule, BrenixPrintModuleId)

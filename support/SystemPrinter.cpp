@@ -14,13 +14,15 @@ void SystemPrinter::PageSetup(QWidget *window)
     dialog.exec();
 }
 
-QPagedPaintDevice *SystemPrinter::AskPrinter(QWidget *window, bool hasSelection)
+PrintOrder SystemPrinter::AskPrinter(QWidget *window, bool hasSelection)
 {
     QPrintDialog dialog(&m_printer, window);
     dialog.setWindowTitle(u"Print"_s);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, hasSelection);
     m_printer.setPrintRange(hasSelection ? QPrinter::Selection : QPrinter::AllPages);
-    return dialog.exec() == QDialog::Accepted ? &m_printer : nullptr;
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return {&m_printer, m_printer.printRange() == QPrinter::Selection};
 }
 
 } // namespace brenix

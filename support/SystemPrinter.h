@@ -15,7 +15,7 @@ class SystemPrinter final : public QObject, public PrintModule
 
 public:
     void PageSetup(QWidget *window) override;
-    QPagedPaintDevice *AskPrinter(QWidget *window, bool hasSelection) override;
+    PrintOrder AskPrinter(QWidget *window, bool hasSelection) override;
 
 private:
     QPrinter m_printer{QPrinter::HighResolution};
