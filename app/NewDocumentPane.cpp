@@ -13,7 +13,6 @@ namespace brenix {
 namespace {
     constexpr int BlinkTime = 600; // ms
     constexpr int ShortestList = 30; // pixels
-    constexpr int FirstRecentRow = 3;
     constexpr int FirstKindRow = 2; // the wizards above have nothing to run yet
 } // namespace
 
@@ -33,6 +32,8 @@ NewDocumentPane::NewDocumentPane(QWidget *parent)
                        u"Empty Document"_s,
                        u"XHTML Document"_s});
     setFocusProxy(m_kinds);
+    for (int kind = 0; kind < m_kinds->count(); ++kind)
+        m_kinds->item(kind)->setToolTip(m_kinds->item(kind)->text());
     for (int wizard = 0; wizard < FirstKindRow; ++wizard)
         m_kinds->item(wizard)->setFlags(Qt::NoItemFlags);
 
@@ -81,22 +82,24 @@ void NewDocumentPane::RebuildOpenList()
     const QStringList rows = OpenListRows();
     for (int row = 0; row < rows.size(); ++row) {
         auto *item = new QListWidgetItem(rows[row], m_openList);
-        if (row > 0 && row < FirstRecentRow)
+        const QString path = RecentFileOfRow(row);
+        item->setToolTip(path.isEmpty() ? rows[row] : path);
+        if (row > 0 && path.isEmpty())
             item->setFlags(Qt::NoItemFlags);
-        if (row >= FirstRecentRow)
-            item->setToolTip(RecentFile(row - FirstRecentRow + 1));
     }
 }
 
 void NewDocumentPane::SetTemplates(const QStringList &names)
 {
     m_templates->clear();
-    m_templates->addItems(names);
+    for (const QString &name : names)
+        AddTemplate(name);
 }
 
 void NewDocumentPane::AddTemplate(const QString &name)
 {
-    m_templates->addItem(name);
+    // The pane may be narrower than the name.
+    (new QListWidgetItem(name, m_templates))->setToolTip(name);
 }
 
 void NewDocumentPane::RemoveTemplate(const QString &name)

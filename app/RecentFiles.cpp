@@ -9,6 +9,8 @@ namespace brenix {
 
 namespace {
 
+    const QStringList Commands{u"Open Document"_s, u"Open from Web..."_s, u"------------"_s};
+
     QString RecentKey(int number)
     {
         return u"Recent"_s + QString::number(number);
@@ -19,6 +21,18 @@ namespace {
     {
         const QString name = FileNameOf(path);
         return name.size() == path.size() ? QString() : path.left(3) + u"...\\"_s + name;
+    }
+
+    // Those that have a row.
+    QStringList Shown()
+    {
+        QStringList paths;
+        for (int number = 1; number <= RecentCount; ++number) {
+            const QString path = RecentFile(number);
+            if (!ShortForm(path).isEmpty())
+                paths.append(path);
+        }
+        return paths;
     }
 
 } // namespace
@@ -41,13 +55,15 @@ void AddRecentFile(const QString &path)
 
 QStringList OpenListRows()
 {
-    QStringList rows{u"Open Document"_s, u"Open from Web..."_s, u"------------"_s};
-    for (int number = 1; number <= RecentCount; ++number) {
-        const QString shortForm = ShortForm(RecentFile(number));
-        if (!shortForm.isEmpty())
-            rows.append(shortForm);
-    }
+    QStringList rows = Commands;
+    for (const QString &path : Shown())
+        rows.append(ShortForm(path));
     return rows;
+}
+
+QString RecentFileOfRow(int row)
+{
+    return row < Commands.size() ? QString() : Shown().value(row - Commands.size());
 }
 
 } // namespace brenix

@@ -16,5 +16,7 @@ void AddRecentFile(const QString &path);
 /// The rows of the open list: two commands, a line, and the recent files in short form, such as
 /// "/ho...\page.html".
 QStringList OpenListRows();
+/// The recent file of a row, from 0; empty for the two commands, the line, and behind the last row.
+QString RecentFileOfRow(int row);
 
 } // namespace brenix

@@ -224,6 +224,11 @@ bool frmDocument::SaveAs(const QString &title)
     return true;
 }
 
+bool frmDocument::SaveCopy(const QString &path)
+{
+    return BringDesignToSource() && m_source->SaveFile(path);
+}
+
 void frmDocument::Form_Activate()
 {
     Modyfied = QString(Modyfied());

@@ -46,6 +46,8 @@ public:
     /// saved.
     bool Save();
     bool SaveAs(const QString &title);
+    /// Writes the page, as its view has it, to a file that does not become its own.
+    bool SaveCopy(const QString &path);
     /// Brings the preview copy up to what the current view shows. False when there is none.
     bool WriteBrowserCopy();
     /// Renews the preview soon, as the view bar and F5 do.

@@ -11,7 +11,6 @@ class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
-class QMimeData;
 class QSplitter;
 class QTabBar;
 class QToolBar;
@@ -118,7 +117,7 @@ private:
     void OpenTemplate(const QString &name);
     void DeleteTemplate(const QString &name);
     void SaveAsTemplate();
-    void OpenDropped(const QMimeData &data);
+    void OpenDropped(const QStringList &names);
     void OpenFrom(const QString &folder);
     QList<frmDocument *> Documents() const;
     void ForActive(const std::function<void(frmDocument &)> &command);

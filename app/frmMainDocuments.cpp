@@ -1,4 +1,3 @@
-#include "app/DroppedFiles.h"
 #include "app/NewDocumentPane.h"
 #include "app/RecentFiles.h"
 #include "app/StandardPages.h"
@@ -12,13 +11,11 @@
 #include "support/UntitledPages.h"
 
 #include <QDir>
-#include <QDropEvent>
-#include <QFileInfo>
+#include <QFile>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
-#include <QMimeData>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -36,8 +33,6 @@ namespace {
           u"*.php;*.php3;*.pht;*.phtml|SGML files (*.xml,*.dtd,*.xsl)|*.xml;*.dtd;*.xsl|CGI files "
           u"(*.cgi)|*.cgi|"
           u"Extensible HTML File (*.xhtml)|*.xhtml|All Files (*.*)|*.*";
-
-    constexpr int FirstRecentRow = 3;
 
     // What is proposed as a template's name: the file's, without its ending, in capitalised form.
     QString TemplateProposal(const QString &caption)
@@ -146,10 +141,11 @@ void frmMain::NewDocument(const QString &kind)
 
 void frmMain::OpenListRow(int row)
 {
+    const QString recent = RecentFileOfRow(row);
     if (row == 0)
         OpenDoc();
-    else if (row >= FirstRecentRow)
-        OpenPath(RecentFile(row - FirstRecentRow + 1));
+    else if (!recent.isEmpty())
+        OpenPath(recent);
 }
 
 void frmMain::OpenTemplate(const QString &name)
@@ -164,8 +160,15 @@ void frmMain::DeleteTemplate(const QString &name)
 {
     const Answer answer = MsgBox(
         u"Do you want to delete the template '"_s + name + u"'?"_s, Buttons::YesNo, Icon::Question);
-    if (answer == Answer::Yes && QFile::remove(AppPath(QString(u"Templates/"_s + name))))
+    if (answer != Answer::Yes)
+        return;
+    QFile file(AppPath(QString(u"Templates/"_s + name)));
+    if (file.remove() || !file.exists())
         m_newDocumentPane->RemoveTemplate(name);
+    else
+        MsgBox(u"Can't delete '"_s + name + u"'\n\n"_s + file.errorString(),
+               Buttons::Ok,
+               Icon::Critical);
 }
 
 void frmMain::SaveAsTemplate()
@@ -185,25 +188,8 @@ void frmMain::SaveAsTemplate()
                Icon::Critical);
         return;
     }
-    if (document->rtfText().SaveFile(AppPath(QString(u"Templates/"_s + name))) && m_newDocumentPane)
+    if (document->SaveCopy(AppPath(QString(u"Templates/"_s + name))) && m_newDocumentPane)
         m_newDocumentPane->AddTemplate(name);
-}
-
-void frmMain::OpenDropped(const QMimeData &data)
-{
-    QStringList names;
-    for (const QUrl &url : data.urls())
-        names.append(url.toLocalFile());
-    for (const QString &path : DroppedPaths(names)) {
-        if (path.endsWith(QDir::separator())) {
-            OpenFrom(path);
-            continue;
-        }
-        frmDocument *document = LoadNewDoc();
-        document->OpenFile(path);
-        document->rtfText().AddUndo();
-        document->Modyfied = u"0"_s;
-    }
 }
 
 void frmMain::OnWindowActivated(QMdiSubWindow *window)
@@ -284,18 +270,6 @@ void frmMain::RebuildWindowMenu()
         });
         m_windowItems.append(item);
     }
-}
-
-void frmMain::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
-}
-
-void frmMain::dropEvent(QDropEvent *event)
-{
-    event->acceptProposedAction();
-    OpenDropped(*event->mimeData());
 }
 
 } // namespace brenix

@@ -306,6 +306,21 @@ TEST_F(FileCommands, DroppedFilesAreOpened)
     for (const frmDocument *document : Documents())
         EXPECT_EQ(document->Modyfied(), u"0"_s);
     EXPECT_EQ(RecentFile(1), QString()) << "dropping leaves the recent list alone";
+    EXPECT_FALSE(DropFiles(*window, {QUrl(u"http://x/y.html"_s)})) << "nothing to open";
+}
+
+// A file manager that is told of a move removes the file.
+TEST_F(FileCommands, DroppedFilesAreNeverMoved)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(Write(u"a.html"_s, "a"))});
+    Start();
+    QDropEvent drop({5, 5}, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    EXPECT_EQ(drop.proposedAction(), Qt::MoveAction);
+    QCoreApplication::sendEvent(window.get(), &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    Settle();
+    EXPECT_EQ(Active().Source().Text(), u"a"_s);
 }
 
 TEST_F(FileCommands, NewAndOpenPointToTheirLists)

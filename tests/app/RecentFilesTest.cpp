@@ -76,6 +76,12 @@ TEST(OpenList, ShowsShortForms)
                     ElementsAreArray(
                         QStringList{u"Open Document"_s, u"Open from Web..."_s, u"------------"_s}
                         + row.rows));
+        for (int place = -1; place < 3; ++place)
+            EXPECT_EQ(RecentFileOfRow(place), QString());
+        for (int place = 0; place < row.rows.size(); ++place)
+            EXPECT_TRUE(RecentFileOfRow(3 + place).endsWith(row.rows[place].section(u'\\', -1)))
+                << "a row opens what it shows";
+        EXPECT_EQ(RecentFileOfRow(3 + int(row.rows.size())), QString());
     }
 }
 
