@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 namespace brenix {
 
@@ -126,6 +127,26 @@ namespace {
         return filters;
     }
 
+    /// The ending that the first pattern of a filter asks for: "css" of "Stylesheet (*.css)", empty
+    /// for "All Files (*)".
+    QString SuffixOf(const QString &nameFilter)
+    {
+        static const QRegularExpression pattern(u"\\(\\*\\.([^ *)]+)[^(]*$"_s);
+        return pattern.match(nameFilter).captured(1);
+    }
+
+    /// A name without an ending gets that of the chosen filter, as the author expects who has just
+    /// said what kind of file it is; else the dialog's own.
+    void FollowFilter(QFileDialog *chooser, const QString &defaultSuffix)
+    {
+        const auto follow = [chooser, defaultSuffix](const QString &nameFilter) {
+            const QString suffix = SuffixOf(nameFilter);
+            chooser->setDefaultSuffix(suffix.isEmpty() ? defaultSuffix : suffix);
+        };
+        QObject::connect(chooser, &QFileDialog::filterSelected, chooser, follow);
+        follow(chooser->selectedNameFilter());
+    }
+
     /// The folder of the last choice, where the next one begins.
     QString &LastFolder()
     {
@@ -158,6 +179,8 @@ namespace {
         chooser.setNameFilters(filters);
         chooser.selectNameFilter(filters.value(dialog.filterIndex - 1));
         chooser.setDefaultSuffix(dialog.defaultSuffix);
+        if (isSave)
+            FollowFilter(&chooser, dialog.defaultSuffix);
         if (!LastFolder().isEmpty())
             chooser.setDirectory(LastFolder());
         ProposeName(&chooser, dialog.name);

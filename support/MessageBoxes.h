@@ -36,7 +36,9 @@ struct FileDialog
     QString title = {};
     QString filter = {};
     QString name = {};
-    QString defaultSuffix = {}; ///< without a point; added to a name that has none
+    /// Without a point; added to a name that has none. When saving, the ending that the chosen
+    /// filter names goes before it.
+    QString defaultSuffix = {};
     int filterIndex = 1; ///< of the filter that is chosen at first
 };
 QString OpenFileName(const FileDialog &dialog);

@@ -180,6 +180,28 @@ TEST(MessageBoxes, SavingAddsTheSuffixAndAsksBeforeOverwriting)
     EXPECT_EQ(SaveFileName(pattern), QString());
 }
 
+TEST(MessageBoxes, SavingTakesTheSuffixOfTheFilter)
+{
+    const std::pair<int, QString> cases[] = {{0, u"a.html"_s}, {1, u"a.css"_s}, {2, u"a.txt"_s}};
+    const QTemporaryDir folder;
+    for (const auto &[filter, saved] : cases) {
+        WhenOpen<QFileDialog>([filter = filter](QFileDialog *box) {
+            auto *types = box->findChild<QComboBox *>(u"fileTypeCombo"_s);
+            ASSERT_NE(types, nullptr);
+            types->setCurrentIndex(filter);
+            emit types->textActivated(types->currentText());
+            emit types->activated(filter);
+            static_cast<QDialog *>(box)->accept();
+        });
+        EXPECT_EQ(SaveFileName({.title = u"Save"_s,
+                                .filter = u"All Files (*.*)|*.*|Stylesheet (*.css)|*.css|"
+                                          "Text file (*.txt;*.asc)|*.txt;*.asc"_s,
+                                .name = folder.filePath(u"a"_s),
+                                .defaultSuffix = u"html"_s}),
+                  folder.filePath(saved));
+    }
+}
+
 TEST(MessageBoxes, AScriptAnswersInPlaceOfTheUser)
 {
     Scripted().msgBox = [](const QString &, Buttons, Icon) { return Answer::No; };
