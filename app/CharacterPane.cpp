@@ -6,6 +6,7 @@
 #include "tags/frmTagCode.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +26,21 @@ CharacterPane::CharacterPane(ActivePage activePage, QWidget *parent)
     setObjectName(u"Chars"_s);
     QListWidget *list = NewPaneList(u"List7"_s, u"Special Characters"_s, this);
     list->addItems(CharacterMapRows());
+    auto *find = new QLineEdit(this);
+    find->setObjectName(u"Find"_s);
+    find->setAccessibleName(u"Find a character by its name"_s);
+    find->setToolTip(find->accessibleName());
+    find->setPlaceholderText(u"Find"_s);
+    find->setClearButtonEnabled(true);
+    connect(find, &QLineEdit::textChanged, list, [list](const QString &name) {
+        list->clear();
+        list->addItems(CharacterMapRows(name));
+        list->setCurrentRow(name.isEmpty() ? -1 : 0);
+    });
+    connect(find, &QLineEdit::returnPressed, list, [list] {
+        if (list->currentItem())
+            emit list->itemActivated(list->currentItem());
+    });
     connect(list, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
         InsertIntoPage(m_activePage, item->text().section(Separator, 1));
     });
@@ -44,6 +60,7 @@ CharacterPane::CharacterPane(ActivePage activePage, QWidget *parent)
     head->addWidget(translate);
     QVBoxLayout *layout = NewPaneLayout(this);
     layout->addLayout(head);
+    layout->addWidget(find);
     layout->addWidget(list, 1);
     setFocusProxy(list);
 }

@@ -6,8 +6,8 @@
 
 namespace brenix {
 
-/// The character map: a double click or Enter inserts the entity of a character. A dialog turns
-/// whole texts into entities.
+/// The character map: a double click or Enter inserts the entity of a character. A field above it
+/// finds all named characters, and a dialog turns whole texts into entities.
 class CharacterPane : public QWidget
 {
 public:

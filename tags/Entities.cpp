@@ -86,6 +86,17 @@ namespace {
     constexpr char16_t LastOfMap = 0x00FF;
     constexpr QStringView NotInMap = u"\u00AD\u00AF\u00B4\u00B8"; // shy, macr, acute, cedil
 
+    bool IsInMap(char16_t character)
+    {
+        return character >= FirstOfMap && character <= LastOfMap && !NotInMap.contains(character);
+    }
+
+    bool IsCalled(const NamedCharacter &named, QStringView name)
+    {
+        return named.name.contains(name, Qt::CaseInsensitive)
+            || (name.size() == 1 && name[0] == named.character);
+    }
+
     QHash<QString, QChar> CharactersByEntity()
     {
         QHash<QString, QChar> characters;
@@ -98,13 +109,25 @@ namespace {
 
 QStringList CharacterMapRows()
 {
-    QStringList rows;
+    return CharacterMapRows({});
+}
+
+QStringList CharacterMapRows(QStringView wanted)
+{
+    QStringView name = wanted.trimmed();
+    if (name.startsWith(u'&'))
+        name = name.sliced(1);
+    if (name.endsWith(u';'))
+        name.chop(1);
+    QStringList inMap;
+    QStringList others;
     for (const NamedCharacter &named : NamedCharacters) {
-        if (named.character >= FirstOfMap && named.character <= LastOfMap
-            && !NotInMap.contains(named.character))
-            rows.append(u"%1 - &%2;"_s.arg(QChar(named.character)).arg(named.name));
+        const bool isInMap = IsInMap(named.character);
+        if (name.isEmpty() ? isInMap : IsCalled(named, name))
+            (isInMap ? inMap : others)
+                .append(u"%1 - &%2;"_s.arg(QChar(named.character)).arg(named.name));
     }
-    return rows;
+    return inMap + others;
 }
 
 QString CharacterOfEntity(QStringView entity)

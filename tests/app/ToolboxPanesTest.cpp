@@ -153,6 +153,22 @@ TEST_F(ToolboxPanesTest, ListsInsertIntoThePage)
     EXPECT_EQ(Documents().size(), 0) << "and nothing else happened";
 }
 
+TEST_F(ToolboxPanesTest, CharactersAreFound)
+{
+    StartWith({});
+    QWidget &pane = Show(u"mnuCharacter"_s);
+    auto &find = In<QLineEdit>(pane, u"Find"_s);
+    find.setText(u"mdash"_s);
+    EXPECT_THAT(Rows(In<QListWidget>(pane, u"List7"_s)), ElementsAre(u"\u2014 - &mdash;"_s));
+    Press(find, Qt::Key_Return);
+    EXPECT_EQ(Active().Source().Text(), u"&mdash;"_s);
+    find.setText(u"no such"_s);
+    Press(find, Qt::Key_Return);
+    EXPECT_EQ(Active().Source().Text(), u"&mdash;"_s);
+    find.clear();
+    EXPECT_EQ(Rows(In<QListWidget>(pane, u"List7"_s)).size(), 91);
+}
+
 TEST_F(ToolboxPanesTest, TheDialectIsTheWindows)
 {
     Start();

@@ -22,6 +22,24 @@ TEST(Entities, TheMapHas91RowsInTheOrderOfTheirCharacters)
     }
 }
 
+TEST(Entities, CharactersAreFoundByName)
+{
+    const std::tuple<QString, QStringList> cases[] = {
+        {u"dash"_s, {u"\u2013 - &ndash;"_s, u"\u2014 - &mdash;"_s}},
+        {u" &DASH; "_s, {u"\u2013 - &ndash;"_s, u"\u2014 - &mdash;"_s}},
+        {u"\u2013"_s, {u"\u2013 - &ndash;"_s}},
+        {u"arin"_s, {u"\u00C5 - &Aring;"_s, u"\u00E5 - &aring;"_s}},
+        {u"uml"_s.repeated(2), {}},
+        {u"<"_s, {u"< - &lt;"_s}},
+    };
+    for (const auto &[wanted, rows] : cases)
+        EXPECT_EQ(CharacterMapRows(wanted), rows) << qPrintable(wanted);
+    const QStringList quotes = CharacterMapRows(u"quo");
+    EXPECT_EQ(quotes.first(), u"\u00AB - &laquo;"_s) << "those of the map come first";
+    EXPECT_TRUE(quotes.contains(u"\u201C - &ldquo;"_s));
+    EXPECT_EQ(CharacterMapRows(u"&;"), CharacterMapRows());
+}
+
 struct EntityCase
 {
     const char *name;
