@@ -30,6 +30,8 @@ namespace {
     };
     // clang-format on
 
+    constexpr qsizetype LongestCaption = 200; // a file of another kind may have megabytes of it
+
 } // namespace
 
 void ReadLanguage(QStringView text,
@@ -40,7 +42,9 @@ void ReadLanguage(QStringView text,
         const std::optional<QString> caption = input.Next();
         if (!caption)
             return;
-        apply(QString::fromUtf16(slot), *caption);
+        // A menu without a caption could not be found any more.
+        if (!caption->trimmed().isEmpty())
+            apply(QString::fromUtf16(slot), caption->left(LongestCaption));
     }
 }
 

@@ -1,3 +1,4 @@
+#include "app/LanguageFile.h"
 #include "app/RecentFiles.h"
 #include "app/StandardPages.h"
 #include "app/frmTip.h"
@@ -302,6 +303,8 @@ TEST_F(StartUp, DamagedFilesLeaveAWindow)
         {"one line", "Datei\n", {}, u"Datei"_s, u"&About "_s},
         {"a line short", lines, "not an icon", u"Line 1"_s, u"&About "_s},
         {"many lines", lines.repeated(115), "\0\0\1\0\xFF\xFF", u"Line 1"_s, u"Line 1"_s},
+        {"blank lines", "\n \n", {}, u"&File"_s, u"&About "_s},
+        {"no line end", QByteArray(1 << 20, 'x'), {}, QString(200, u'x'), u"&About "_s},
         {"binary", QByteArray("\0\xFF\1\"\n", 5).repeated(999), {}, u"&File"_s, u"&About "_s},
     };
     for (const Case &row : cases) {
@@ -316,6 +319,34 @@ TEST_F(StartUp, DamagedFilesLeaveAWindow)
         EXPECT_EQ(Find<QAction>(u"mnuHelpAbout"_s).text(), row.last);
         Stop();
     }
+}
+
+TEST_F(StartUp, ShippedLanguageFilesNameEveryPlace)
+{
+    const auto fields = [](const QString &name) {
+        QFile file(QCoreApplication::applicationDirPath() + u"/../"_s + name);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        QList<std::pair<QString, QString>> captions;
+        ReadLanguage(QString::fromUtf8(file.readAll()),
+                     [&captions](const QString &menu, const QString &caption) {
+                         captions.append({menu, caption});
+                     });
+        EXPECT_EQ(captions.size(), 88) << name.toStdString();
+        return captions;
+    };
+    Start();
+    const auto caption = [this](const QString &name) {
+        const auto *menu = window->findChild<QMenu *>(name);
+        return menu ? menu->title() : Find<QAction>(name).text();
+    };
+    for (const auto &[name, english] : fields(u"language.lng"_s))
+        EXPECT_EQ(english, caption(name)) << "what the window says by itself";
+    int translated = 0;
+    for (const auto &[name, german] : fields(u"Languages/german.lng"_s)) {
+        EXPECT_FALSE(german.trimmed().isEmpty()) << name.toStdString();
+        translated += german != caption(name);
+    }
+    EXPECT_GT(translated, 70);
 }
 
 TEST_F(StartUp, LanguageFileNamesTheButtonsToo)
