@@ -10,6 +10,7 @@
 #include "insert/frmHyperlink.h"
 #include "insert/frmImage.h"
 #include "insert/frmTable.h"
+#include "support/AuthorFile.h"
 #include "support/DesignView.h"
 #include "support/MessageBoxes.h"
 #include "support/Paths.h"
@@ -23,7 +24,7 @@
 #include "tags/frmTagDesigner.h"
 
 #include <QClipboard>
-#include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QMenu>
@@ -54,19 +55,38 @@ namespace {
         {u"mnuNormal", u"Normal", u"<P></P>", u"Normal"},
     };
 
+    // Beside the page: the picture's own name, or that with a number where another picture has it.
+    QString PlaceOfCopy(const QString &folder, const QString &path, const QByteArray &picture)
+    {
+        const QFileInfo file(path);
+        QString place = folder + file.fileName();
+        for (int number = 2; QFile::exists(place) && ReadAuthorFile(place).bytes != picture;
+             ++number)
+            place
+                = folder + file.completeBaseName() + QString::number(number) + u'.' + file.suffix();
+        return place;
+    }
+
     // A picture of the gallery lies with the program, where no reader of the page finds it.
     QString OwnCopy(const DocumentModel &page, const QString &path)
     {
-        const QString copy = page.Folder() + FileNameOf(path);
         if (IsUntitled(page.Caption()) || FolderOf(path) != FolderOf(AppPath(u"Backgrounds/x")))
             return path;
+        const QByteArray picture = ReadAuthorFile(path).bytes;
+        const QString copy = PlaceOfCopy(page.Folder(), path, picture);
         if (QFile::exists(copy))
             return copy;
         const Answer answer = MsgBox(u"Do you want to copy '"_s + FileNameOf(path)
                                          + u"' to the folder of the page?"_s,
                                      Buttons::YesNo,
                                      Icon::Question);
-        return answer == Answer::Yes && QFile::copy(path, copy) ? copy : path;
+        if (answer != Answer::Yes)
+            return path;
+        const QString error = WriteAuthorFile(copy, picture);
+        if (error.isEmpty())
+            return copy;
+        MsgBox(u"Can't save '"_s + copy + u"'\n\n"_s + error, Buttons::Ok, Icon::Critical);
+        return path;
     }
 
     // The selection inside the tags of a style.

@@ -106,14 +106,22 @@ TEST_F(InsertCommands, BackgroundIsCopiedBesideThePage)
     ASSERT_TRUE(QImage(8, 8, QImage::Format_RGB32).save(AppPath(u"Backgrounds/dots.png")));
     Start({page});
     boxes.answer = Answer::Yes;
-    QTimer::singleShot(0, [&] {
-        auto *gallery = QApplication::activeModalWidget();
-        gallery->findChild<QListWidget *>(u"List1"_s)->setCurrentRow(0);
-        gallery->findChild<QPushButton *>(u"Command1"_s)->click();
-    });
-    Trigger(u"mnuBackground"_s);
-    EXPECT_EQ(Active().Source().Text(), u"<body background=\"dots.png\">"_s);
+    const auto choose = [this] {
+        QTimer::singleShot(0, window.get(), [] {
+            auto *gallery = QApplication::activeModalWidget();
+            gallery->findChild<QListWidget *>(u"List1"_s)->setCurrentRow(0);
+            gallery->findChild<QPushButton *>(u"Command1"_s)->click();
+        });
+        Trigger(u"mnuBackground"_s);
+        return Active().Source().Text();
+    };
+    EXPECT_EQ(choose(), u"<body background=\"dots.png\">"_s);
     EXPECT_TRUE(QFile::exists(folder.filePath(u"dots.png"_s)));
+    EXPECT_EQ(choose(), u"<body background=\"dots.png\">"_s) << "it is there already";
+    EXPECT_EQ(boxes.asked.size(), 1);
+    Write(u"dots.png"_s, "another picture of the author's");
+    EXPECT_EQ(choose(), u"<body background=\"dots2.png\">"_s);
+    EXPECT_EQ(Read(folder.filePath(u"dots.png"_s)), "another picture of the author's");
 }
 
 } // namespace
