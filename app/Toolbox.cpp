@@ -30,7 +30,6 @@ Toolbox::Toolbox(QWidget *parent)
 {
     setObjectName(u"Toolbox"_s);
     m_title->setObjectName(u"Label1"_s);
-    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_menu->setObjectName(u"mnuToolbox"_s);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

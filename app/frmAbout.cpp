@@ -23,7 +23,7 @@ frmAbout::frmAbout(QWidget *parent)
 {
     Rows().Add(Title());
     QLabel *what = Rows().Note(
-        u"An HTML editor for people who write HTML by hand: the source in colours and the page "
+        u"An HTML editor for people who write HTML by hand: the source in colors and the page "
         "side by side, each key seen on the page a moment later, and a file that keeps every byte "
         "you did not change."_s);
     what->setMinimumWidth(fontMetrics().averageCharWidth() * CharactersWide);

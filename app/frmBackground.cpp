@@ -24,10 +24,12 @@ namespace {
     constexpr int RowsShown = 3;
     constexpr QSize Thumbnail(96, 64);
     constexpr int Spacing = 5;
+    constexpr int NameLength = 11; // in characters, that is shown whole
 
     QSize CellSize(const QFontMetrics &metrics)
     {
-        return {Thumbnail.width() + 8, Thumbnail.height() + metrics.lineSpacing() + 8};
+        const int width = std::max(Thumbnail.width(), metrics.averageCharWidth() * NameLength);
+        return {width + 8, Thumbnail.height() + metrics.lineSpacing() + 8};
     }
 
     QString GalleryFolder()

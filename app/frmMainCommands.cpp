@@ -172,6 +172,13 @@ void frmMain::AddWindowCommands(MainMenu::Commands &commands)
 // A reference stays open beside the page; the name that is chosen in it goes to the caret.
 template <typename Reference> void frmMain::ShowReference()
 {
+    for (QObject *child : children()) {
+        if (auto *open = dynamic_cast<Reference *>(child)) {
+            open->show();
+            open->activateWindow();
+            return;
+        }
+    }
     const auto insert = [this](const QString &name) {
         ForActive([&](frmDocument &document) {
             if (document.Status() == u"Design" || document.Source().isReadOnly())

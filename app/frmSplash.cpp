@@ -15,6 +15,7 @@ namespace brenix {
 namespace {
 
     constexpr int WorthAPicture = 150; // ms
+    constexpr int CharactersWide = 44;
 
     int VersionPart(int index)
     {
@@ -53,7 +54,7 @@ void frmSplash::Build()
     picture->setPixmap(QPixmap(AppPath(u"brenix.png")));
     auto *name = new QLabel(u"Brenix"_s, this);
     QFont large = name->font();
-    large.setPointSize(large.pointSize() * 2);
+    large.setPointSizeF(large.pointSizeF() * 2);
     large.setBold(true);
     name->setFont(large);
     auto *version = new QLabel(
@@ -65,7 +66,8 @@ void frmSplash::Build()
         layout->addWidget(label);
     }
     m_status->setObjectName(u"Label1"_s);
-    setFixedSize(360, 240);
+    m_status->setFixedWidth(fontMetrics().averageCharWidth() * CharactersWide);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmSplash::showEvent(QShowEvent *event)
@@ -82,7 +84,8 @@ void frmSplash::Say(const QString &text)
     setAccessibleDescription(text);
     if (!m_status)
         return;
-    m_status->setText(text);
+    // Paths may be longer than the picture is wide.
+    m_status->setText(m_status->fontMetrics().elidedText(text, Qt::ElideMiddle, m_status->width()));
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
