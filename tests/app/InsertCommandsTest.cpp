@@ -1,13 +1,16 @@
 #include "insert/frmTable.h"
+#include "support/AuthorFile.h"
 #include "support/Paths.h"
 #include "tests/app/MainWindowFixture.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QImage>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeWidget>
 
 using namespace brenix;
 using namespace Qt::StringLiterals;
@@ -97,6 +100,27 @@ TEST_F(InsertCommands, GridIsPointedOutByKeysOrMouse)
     Mouse(cells, QEvent::MouseButtonRelease, {5000, 5000});
     EXPECT_EQ(got, std::pair(9, 9)) << "single digits";
     Settle();
+}
+
+TEST_F(InsertCommands, AReferenceIsOneWindowThatInsertsAtTheCaret)
+{
+    QDir().mkpath(AppPath(u"Reference"));
+    ASSERT_EQ(WriteAuthorFile(AppPath(u"Reference/functions.txt"),
+                              "Strings||Group|Are cut.\nStrings|Mid|Function|Cuts.\n"),
+              QString());
+    Start();
+    window->LoadNewDoc()->StartWith(u"xy"_s, 1);
+    for (int turn = 0; turn < 2; ++turn) {
+        Trigger(u"mnuFunctions"_s);
+        Trigger(u"mnuFunctions"_s);
+        const auto windows = window->findChildren<QDialog *>(u"Form32"_s);
+        ASSERT_EQ(windows.size(), 1);
+        auto &tree = *windows[0]->findChild<QTreeWidget *>();
+        emit tree.itemDoubleClicked(tree.topLevelItem(0)->child(0), 0);
+        EXPECT_EQ(Active().Source().Text(), u"x"_s + u"Mid"_s.repeated(turn + 1) + u"y"_s);
+        Press(*windows[0], Qt::Key_Escape);
+        Settle();
+    }
 }
 
 TEST_F(InsertCommands, BackgroundIsCopiedBesideThePage)
