@@ -27,7 +27,7 @@ void ActiveDocumentsPane::ShowDocuments(const QStringList &captions, int active)
         m_documents->addItem(QString());
     for (int row = 0; row < m_documents->count(); ++row) {
         m_documents->item(row)->setText(FileNameOf(captions[row]));
-        m_documents->item(row)->setToolTip(captions[row]);
+        m_documents->item(row)->setToolTip(PlainTip(captions[row]));
     }
     m_documents->setCurrentRow(active);
 }

@@ -127,7 +127,7 @@ void ErrorCheckerPane::AddLines(const QStringList &lines)
     m_report->addItems(lines);
     // Reports are wider than the pane.
     for (int row = before; row < m_report->count(); ++row)
-        m_report->item(row)->setToolTip(lines[row - before]);
+        m_report->item(row)->setToolTip(PlainTip(lines[row - before]));
 }
 
 void ErrorCheckerPane::JumpTo(const QString &line)

@@ -169,7 +169,7 @@ void MLListBox::initViewItemOption(QStyleOptionViewItem *option) const
 {
     QListView::initViewItemOption(option);
     option->decorationAlignment = Qt::AlignHCenter | Qt::AlignTop;
-    option->displayAlignment = Qt::AlignLeft | Qt::AlignTop;
+    option->displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 }
 
 } // namespace brenix

@@ -1,5 +1,6 @@
 #include "app/NewDocumentPane.h"
 
+#include "app/PaneList.h"
 #include "app/RecentFiles.h"
 
 #include <QBoxLayout>
@@ -83,7 +84,7 @@ void NewDocumentPane::RebuildOpenList()
     for (int row = 0; row < rows.size(); ++row) {
         auto *item = new QListWidgetItem(rows[row], m_openList);
         const QString path = RecentFileOfRow(row);
-        item->setToolTip(path.isEmpty() ? rows[row] : path);
+        item->setToolTip(PlainTip(path.isEmpty() ? rows[row] : path));
         if (row > 0 && path.isEmpty())
             item->setFlags(Qt::NoItemFlags);
     }
@@ -99,7 +100,7 @@ void NewDocumentPane::SetTemplates(const QStringList &names)
 void NewDocumentPane::AddTemplate(const QString &name)
 {
     // The pane may be narrower than the name.
-    (new QListWidgetItem(name, m_templates))->setToolTip(name);
+    (new QListWidgetItem(name, m_templates))->setToolTip(PlainTip(name));
 }
 
 void NewDocumentPane::RemoveTemplate(const QString &name)

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QStyle>
+#include <QTextDocument>
 
 namespace brenix {
 
@@ -22,6 +23,11 @@ QVBoxLayout *NewPaneLayout(QWidget *pane)
     auto *layout = new QVBoxLayout(pane);
     layout->setContentsMargins(6, 2, 6, 6);
     return layout;
+}
+
+QString PlainTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
 bool LetEventsRun()

@@ -40,7 +40,7 @@ void TagListPane::Fill(const QString &dialect)
 {
     m_tags->clear();
     for (const QString &tag : TagsOfDialect(dialect))
-        (new QListWidgetItem(tag, m_tags))->setToolTip(tag);
+        (new QListWidgetItem(tag, m_tags))->setToolTip(PlainTip(tag));
 }
 
 } // namespace brenix

@@ -1,5 +1,6 @@
 #include "app/frmBackground.h"
 
+#include "app/PaneList.h"
 #include "app/TiledPreview.h"
 #include "support/MessageBoxes.h"
 #include "support/Paths.h"
@@ -164,7 +165,7 @@ void frmBackground::ListFolder(const QString &folder)
     for (const QFileInfo &file : files) {
         const QString name = isOwn ? GalleryName(file) : file.fileName();
         auto *item = new QListWidgetItem(QIcon(blank), name, m_gallery);
-        item->setToolTip(name);
+        item->setToolTip(PlainTip(name));
         item->setSizeHint(CellSize(fontMetrics()));
         item->setData(PathRole, QDir::toNativeSeparators(file.absoluteFilePath()));
     }
@@ -187,7 +188,7 @@ void frmBackground::DrawNextThumbnail()
     const QIcon thumbnail
         = ThumbnailOf(item->data(PathRole).toString(), m_gallery->devicePixelRatioF());
     if (thumbnail.isNull())
-        item->setToolTip(u"This picture cannot be read: "_s + item->text());
+        item->setToolTip(PlainTip(u"This picture cannot be read: "_s + item->text()));
     else
         item->setIcon(thumbnail);
 }

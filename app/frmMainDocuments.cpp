@@ -1,4 +1,5 @@
 #include "app/NewDocumentPane.h"
+#include "app/PaneList.h"
 #include "app/RecentFiles.h"
 #include "app/StandardPages.h"
 #include "app/ToolboxPanes.h"
@@ -229,7 +230,7 @@ void frmMain::RebuildTabs()
         m_tabStrip->addTab({});
     for (int i = 0; i < documents.size(); ++i) {
         m_tabStrip->setTabText(i, FileNameOf(documents[i]->Caption()).replace(u"&"_s, u"&&"_s));
-        m_tabStrip->setTabToolTip(i, documents[i]->Caption());
+        m_tabStrip->setTabToolTip(i, PlainTip(documents[i]->Caption()));
     }
     m_tabStrip->setCurrentIndex(int(documents.indexOf(ActiveForm())));
     m_panes->Follow();

@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QToolButton>
 
 using namespace brenix;
@@ -167,6 +168,24 @@ TEST_F(ToolboxPanesTest, CharactersAreFound)
     EXPECT_EQ(Active().Source().Text(), u"&mdash;"_s);
     find.clear();
     EXPECT_EQ(Rows(In<QListWidget>(pane, u"List7"_s)).size(), 91);
+}
+
+TEST_F(ToolboxPanesTest, TipsShowTagsAsTheyAre)
+{
+    Start();
+    const auto shown = [](const QListWidgetItem &item) {
+        QTextDocument tip;
+        Qt::mightBeRichText(item.toolTip()) ? tip.setHtml(item.toolTip())
+                                            : tip.setPlainText(item.toolTip());
+        return tip.toPlainText();
+    };
+    const auto &tags = In<QListWidget>(Show(u"mnuToolBoxTagList"_s), u"List4"_s);
+    for (int row = 0; row < tags.count(); ++row)
+        EXPECT_EQ(shown(*tags.item(row)), tags.item(row)->text());
+    const QString line = u"line 1 column 2 - Warning: <img> lacks \"alt\" attribute"_s;
+    auto &report = In<QListWidget>(Show(u"mnuToolBoxErrorChecker"_s), u"List5"_s);
+    static_cast<ErrorCheckerPane *>(Pane(u"ErrorChecker"_s))->AddLine(line);
+    EXPECT_EQ(shown(*report.item(0)), line);
 }
 
 TEST_F(ToolboxPanesTest, TheDialectIsTheWindows)
