@@ -1,7 +1,7 @@
 #pragma once
 
 #include "checks/Pulse.h"
-#include "support/Form.h"
+#include "support/FormDialog.h"
 
 class QListWidget;
 

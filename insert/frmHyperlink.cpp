@@ -5,6 +5,7 @@
 #include "support/Help.h"
 #include "support/SourceView.h"
 #include "tags/ChooseLink.h"
+#include "tags/EditTag.h"
 #include "tags/RecentBox.h"
 
 #include <QBoxLayout>
@@ -45,14 +46,13 @@ frmHyperlink::frmHyperlink(DocumentModel &page, Mode mode, QWidget *parent)
     if (mode == Mode::Edit)
         m_link = ReadHyperlink(page.rtfText().SelText());
     BuildKinds();
-    for (QWidget *kindPage : {AddressPage(), AnchorPage(), MailPage()})
-        m_pages->addWidget(kindPage);
-    auto *body = new QWidget(this);
-    auto *columns = new QHBoxLayout(body);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->addWidget(m_kinds);
-    columns->addWidget(m_pages, 1);
-    Rows().Add(body, 1);
+    const QList<Form *> columns = Rows().Columns({0, 1});
+    columns[0]->Below(u"TW", {}, m_kinds);
+    m_kinds->setAccessibleName(u"Kind of link"_s);
+    columns[1]->Add(m_pages, 1);
+    BuildAddressPage();
+    BuildAnchorPage();
+    BuildMailPage();
     if (mode == Mode::Insert)
         Rows().Text(u"Text1", u"Hyperlink &Text:"_s, m_link.text);
     AddButtons({.ok = u"Command2", .cancel = u"Command3", .help = u"Command1"},
@@ -62,8 +62,6 @@ frmHyperlink::frmHyperlink(DocumentModel &page, Mode mode, QWidget *parent)
 
 void frmHyperlink::BuildKinds()
 {
-    m_kinds->setObjectName(u"TW"_s);
-    m_kinds->setAccessibleName(u"Kind of link"_s);
     m_kinds->setHeaderHidden(true);
     m_kinds->setRootIsDecorated(false);
     m_kinds->setFixedWidth(fontMetrics().averageCharWidth() * 24);
@@ -73,11 +71,17 @@ void frmHyperlink::BuildKinds()
     connect(m_kinds, &QTreeWidget::currentItemChanged, this, &frmHyperlink::ShowKind);
 }
 
-QWidget *frmHyperlink::AddressPage()
+Form &frmHyperlink::AddPage(const char16_t *name)
 {
-    auto *page = new QWidget(this);
-    page->setObjectName(u"Exist"_s);
-    Form &form = *m_forms.emplace_back(std::make_unique<Form>(page));
+    auto *page = new QWidget;
+    page->setObjectName(QString::fromUtf16(name));
+    m_pages->addWidget(page);
+    return Rows().Inside(page);
+}
+
+void frmHyperlink::BuildAddressPage()
+{
+    Form &form = AddPage(u"Exist");
     m_address = form.Combo(u"AutoComplete1",
                            u"Please enter the &address you want to link to:"_s,
                            m_recent.addresses,
@@ -85,41 +89,32 @@ QWidget *frmHyperlink::AddressPage()
     m_address->setMinimumContentsLength(AddressLetters);
     m_address->installEventFilter(this);
     connect(m_address->lineEdit(), &QLineEdit::textEdited, this, &frmHyperlink::CompleteAddress);
-    form.ButtonBeside(u"Command4", u"&Browse..."_s, [this] { ChooseTarget(); });
+    form.ChooserBeside(
+        u"Command4", u"&Browse..."_s, [this](const QString &) { return ChooseTarget(); });
     form.AddStretch();
-    return page;
 }
 
-QWidget *frmHyperlink::AnchorPage()
+void frmHyperlink::BuildAnchorPage()
 {
-    auto *page = new QWidget(this);
-    page->setObjectName(u"Picture1"_s);
-    Form &form = *m_forms.emplace_back(std::make_unique<Form>(page));
+    Form &form = AddPage(u"Picture1");
     m_anchors = form.List(u"List1",
                           u"&Select the possision in the document that you want to link to:"_s,
                           {},
                           m_link.anchor);
     connect(m_anchors, &QListWidget::itemDoubleClicked, this, &frmHyperlink::accept);
-    return page;
 }
 
-QWidget *frmHyperlink::MailPage()
+void frmHyperlink::BuildMailPage()
 {
-    auto *page = new QWidget(this);
-    page->setObjectName(u"Mail"_s);
-    Form &form = *m_forms.emplace_back(std::make_unique<Form>(page));
+    Form &form = AddPage(u"Mail");
     QComboBox *mail = form.Combo(u"Combo3",
                                  u"Please enter the &mail address you want to link to:"_s,
                                  m_recent.mail,
                                  m_link.mail);
-    auto *recent = new QListWidget(page);
-    recent->setObjectName(u"List2"_s);
-    recent->setAccessibleName(u"Recently used mail addresses"_s);
+    auto *recent = new QListWidget;
     recent->addItems(m_recent.mail);
-    form.Note(u"Recently used mail addresses"_s);
-    form.Add(recent, 1);
+    form.Below(u"List2", u"&Recently used mail addresses"_s, recent);
     connect(recent, &QListWidget::currentTextChanged, mail, &QComboBox::setEditText);
-    return page;
 }
 
 void frmHyperlink::ShowKind()
@@ -135,17 +130,12 @@ void frmHyperlink::ShowKind()
     m_anchors->addItems(AnchorsOf(m_page.rtfText().Text()));
 }
 
-void frmHyperlink::ChooseTarget()
+QString frmHyperlink::ChooseTarget()
 {
-    const QString path = OpenFileName(LinkTargets());
-    if (path.isEmpty())
-        return;
-    if (path.endsWith(u"url", Qt::CaseInsensitive)) {
-        if (const std::optional<QString> line = ShortcutLine(path))
-            m_address->setEditText(ShortcutAddress(*line));
-        return;
-    }
-    m_address->setEditText(LinkTo(m_page, path));
+    const QString path = OpenFileName(LinkTargets(m_page));
+    if (path.endsWith(u"url", Qt::CaseInsensitive))
+        return ShortcutAddress(ShortcutLine(path).value_or(QString()));
+    return path.isEmpty() ? path : LinkTo(m_page, path);
 }
 
 void frmHyperlink::CompleteAddress(const QString &typed)
@@ -173,16 +163,11 @@ bool frmHyperlink::eventFilter(QObject *watched, QEvent *event)
 
 bool frmHyperlink::Accepted()
 {
-    for (const std::unique_ptr<Form> &form : m_forms)
-        form->Store();
     StoreRecentAddresses(JoinRecentAddresses(m_recent, HyperlinkAddress(m_link)));
-    if (m_mode == Mode::Insert) {
+    if (m_mode == Mode::Insert)
         InsertMarkup(m_page, HyperlinkMarkup(m_link));
-        return true;
-    }
-    SourceView &source = m_page.rtfText();
-    source.AddUndo();
-    source.SetSelText(HyperlinkStartTag(m_link));
+    else
+        ReplaceTag(m_page.rtfText(), HyperlinkStartTag(m_link));
     return true;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Form.h"
+#include "support/FormDialog.h"
 #include "tags/HyperlinkMarkup.h"
 #include "tags/LinkFiles.h"
 
@@ -25,11 +25,12 @@ protected:
 
 private:
     void BuildKinds();
-    QWidget *AddressPage();
-    QWidget *AnchorPage();
-    QWidget *MailPage();
+    Form &AddPage(const char16_t *name);
+    void BuildAddressPage();
+    void BuildAnchorPage();
+    void BuildMailPage();
     void ShowKind();
-    void ChooseTarget();
+    QString ChooseTarget();
     void CompleteAddress(const QString &typed);
 
     DocumentModel &m_page;
@@ -40,7 +41,6 @@ private:
     QStackedWidget *m_pages;
     QComboBox *m_address = nullptr; // AutoComplete1
     QListWidget *m_anchors = nullptr; // List1
-    std::vector<std::unique_ptr<Form>> m_forms; // of the pages
 };
 
 } // namespace brenix

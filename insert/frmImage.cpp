@@ -7,6 +7,7 @@
 #include "support/Pictures.h"
 #include "support/SourceView.h"
 #include "tags/ChooseLink.h"
+#include "tags/EditTag.h"
 #include "tags/LinkFiles.h"
 #include "tags/RecentBox.h"
 
@@ -84,12 +85,11 @@ void frmImage::BuildSizes()
 void frmImage::BuildLink()
 {
     QComboBox *link = Rows().Combo(u"Combo3", u"&Link to:"_s, ReadRecentAddresses(), m_image.link);
-    QPushButton *choose = Rows().ButtonBeside(u"FButton1", u"Brow&se..."_s, [this, link] {
-        const QString target = ChooseLink(
-            m_page, {.title = u"Link to file"_s, .filter = QString::fromUtf16(LinkFilter)});
-        if (!target.isEmpty())
-            link->setEditText(target);
-    });
+    QPushButton *choose
+        = Rows().ChooserBeside(u"FButton1", u"Brow&se..."_s, [this](const QString &) {
+              return ChooseLink(
+                  m_page, {.title = u"Link to file"_s, .filter = QString::fromUtf16(LinkFilter)});
+          });
     link->setEnabled(m_mode == Mode::Insert);
     choose->setEnabled(m_mode == Mode::Insert);
 }
@@ -154,13 +154,10 @@ bool frmImage::Accepted()
     for (int i = 0; i < m_source->count(); ++i)
         recent.append(m_source->itemText(i));
     StoreRecentAddresses(recent);
-    if (m_mode == Mode::Insert) {
+    if (m_mode == Mode::Insert)
         InsertMarkup(m_page, ImageMarkup(m_image));
-        return true;
-    }
-    SourceView &source = m_page.rtfText();
-    source.AddUndo();
-    source.SetSelText(ImageTag(m_image));
+    else
+        ReplaceTag(m_page.rtfText(), ImageTag(m_image));
     return true;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "macros/MacroFiles.h"
-#include "support/Form.h"
+#include "support/FormDialog.h"
 
 #include <QTimer>
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QDialog>
 #include <QList>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QCheckBox;
@@ -17,6 +18,7 @@ class QListWidget;
 class QPlainTextEdit;
 class QPushButton;
 class QSpinBox;
+class QWidget;
 
 namespace brenix {
 
@@ -49,6 +51,8 @@ public:
                       const QString &caption,
                       const QStringList &items,
                       QString &field);
+    /// A text of several lines, whose ends are CR LF in the field.
+    QPlainTextEdit *LongText(const char16_t *name, const QString &caption, QString &field);
     /// A list of its own row to be edited as text, an item a line; empty lines at its end are
     /// dropped.
     QPlainTextEdit *Lines(const char16_t *name, const QString &caption, QStringList &field);
@@ -62,6 +66,11 @@ public:
     };
     /// Buttons of which one is on; the field has the value of that one.
     void Options(const QList<Option> &options, int &field);
+    /// A control of the caller's own, bound to nothing: beside its caption, or below it with what
+    /// height there is.
+    void Row(const char16_t *name, const QString &caption, QWidget *control);
+    void Below(const char16_t *name, const QString &caption, QWidget *control);
+
     /// A row of its own.
     QPushButton *Button(const char16_t *name,
                         const QString &caption,
@@ -70,6 +79,11 @@ public:
     QPushButton *ButtonBeside(const char16_t *name,
                               const QString &caption,
                               std::function<void()> clicked);
+    /// Beside a text, or a combo: `choose` gets what stands in it and says what shall, as a file or
+    /// a colour that the author picks; an empty answer changes nothing.
+    QPushButton *ChooserBeside(const char16_t *name,
+                               const QString &caption,
+                               std::function<QString(const QString &text)> choose);
     /// A paragraph over the whole width.
     QLabel *Note(const QString &text);
     /// Any other control over the whole width.
@@ -77,16 +91,27 @@ public:
     /// The rows keep to the top when the page is higher, unless one of them takes the room.
     void AddStretch();
 
+    /// Forms within this one: it shows and takes their fields with its own, and tells of their
+    /// changes. In a frame with a title; side by side, each as wide as its share; on a page of a
+    /// stack or of tabs, to which the caller adds it.
+    Form &Group(const char16_t *name, const QString &title);
+    QList<Form *> Columns(const QList<int> &shares);
+    Form &Inside(QWidget *page);
+
     /// Shows the fields' values again, and takes the controls' values into the fields.
-    void Load() const;
+    void Load();
     void Store() const;
+    /// What to do after every change of a control, with the fields up to date.
+    void WhenChanged(std::function<void()> changed) { m_changed = std::move(changed); }
 
 private:
-    template <typename Control>
-    Control *AddRow(const char16_t *name, const QString &caption, Control *control);
-    template <typename Control>
-    Control *AddBelow(const char16_t *name, const QString &caption, Control *control);
-    void Bind(std::function<void()> load, std::function<void()> store);
+    QPlainTextEdit *AddTextBox(const char16_t *name, const QString &caption);
+    template <typename Control, typename Signal>
+    void Bind(Control *control,
+              Signal changed,
+              std::function<void()> load,
+              std::function<void()> store);
+    void TellChange();
     QPushButton *NewButton(const char16_t *name,
                            const QString &caption,
                            std::function<void()> clicked);
@@ -98,36 +123,12 @@ private:
     };
     QWidget *m_page;
     QGridLayout *m_grid;
+    Form *m_parent = nullptr;
+    bool m_isLoading = false;
     std::vector<Binding> m_bindings;
-};
-
-/// A modal dialog that is a form and a row of buttons. OK takes the controls' values into the
-/// fields and then runs `Accepted`, which may refuse; Cancel leaves the fields as they were. No
-/// dialog knows the main window.
-class FormDialog : public QDialog
-{
-public:
-    FormDialog(const char16_t *name, const QString &title, QWidget *parent = nullptr);
-
-    void accept() override;
-
-protected:
-    Form &Rows() { return m_form; }
-    /// The button row, to be made last. An empty name leaves a button out; `help` is what the help
-    /// button does.
-    struct ButtonNames
-    {
-        const char16_t *ok;
-        const char16_t *cancel;
-        const char16_t *help = nullptr;
-    };
-    void AddButtons(const ButtonNames &names, std::function<void()> help = {});
-    /// What OK does with the fields; false keeps the dialog open.
-    virtual bool Accepted() { return true; }
-
-private:
-    QWidget *m_page;
-    Form m_form;
+    std::vector<std::unique_ptr<Form>> m_inner;
+    std::function<void()> m_changed;
+    QObject m_context; // no control tells its last changes to a form that is gone
 };
 
 } // namespace brenix

@@ -1,5 +1,7 @@
 #include "support/MessageBoxes.h"
 
+#include "support/ColourText.h"
+
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
@@ -277,6 +279,12 @@ std::optional<quint32> ChooseColour(quint32 colour)
     if (!chosen.isValid())
         return std::nullopt;
     return quint32(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
+}
+
+QString ChooseColourText(const QString &text)
+{
+    const std::optional<quint32> chosen = ChooseColour(ColourOfText(text));
+    return chosen ? ColourText(*chosen) : QString();
 }
 
 } // namespace brenix

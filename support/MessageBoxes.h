@@ -49,6 +49,9 @@ QString ChooseFolder(const QString &title);
 
 /// The system's colour dialog; colours in blue-green-red order, nothing when cancelled.
 std::optional<quint32> ChooseColour(quint32 colour);
+/// The same for a field that holds a colour as pages write it: `text` is what stands in it, and the
+/// answer "#" and six digits. Empty when cancelled.
+QString ChooseColourText(const QString &text);
 
 /// Answers in place of the user. A test sets the functions that it expects to be asked; the others
 /// stay as they are.

@@ -17,6 +17,8 @@ namespace {
     constexpr qint64 MostPixels = 32'000'000; // which is as much as the reader allocates
     constexpr qint64 MostPreviewPixels = 8'000'000;
     constexpr qint64 MostPreviewJpegPixels = 24'000'000; // scaled while it is decoded
+    constexpr qint64 MostMeasuredJpegPixels = 250'000'000;
+    constexpr int MeasuredSide = 64; // of what is kept of a picture that is only measured
 
     // The reader takes a JPEG that is cut off for a whole one. Behind the start of the scan an end
     // mark is the picture's own; before it there may be a small picture with one.
@@ -37,12 +39,15 @@ namespace {
     // Sets the reader up; false for a file that is no picture or would take too long.
     bool IsReadable(QImageReader &reader, qint64 mostPixels, qint64 mostJpegPixels)
     {
+        const QFileInfo file(reader.fileName());
+        if (!file.isFile())
+            return false; // a pipe would be waited for
         reader.setDecideFormatFromContent(true);
         reader.setAutoTransform(true);
         const QByteArray format = reader.format();
         const qint64 largest = format.startsWith("svg") ? LargestDrawing : LargestFile;
         const qint64 most = format == "jpeg" ? mostJpegPixels : mostPixels;
-        if (QFileInfo(reader.fileName()).size() > largest)
+        if (file.size() > largest)
             return false; // asking for the size of a drawing reads all of it
         const QSize size = reader.size();
         return !size.isEmpty() && qint64(size.width()) * size.height() <= most
@@ -79,7 +84,16 @@ QImage ReadPicture(const QString &path)
 
 QSize MeasurePicture(const QString &path)
 {
-    return ReadPicture(path).size();
+    QImageReader reader(path);
+    if (!IsReadable(reader, MostPixels, MostMeasuredJpegPixels))
+        return {};
+    const QSize size = reader.size();
+    const bool isTurned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    if (reader.format() == "jpeg")
+        reader.setScaledSize(PreviewSize(size, MeasuredSide));
+    if (reader.read().isNull())
+        return {}; // damaged
+    return isTurned ? size.transposed() : size;
 }
 
 QSize PreviewSize(const QSize &picture, int side)

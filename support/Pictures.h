@@ -18,7 +18,8 @@ QImage ReadPreview(const QString &path, int side);
 /// A picture as it is. Null for a file that is no whole picture, or is larger than 32 MB or 32
 /// million pixels.
 QImage ReadPicture(const QString &path);
-/// The size in pixels of a picture that can be read; empty for any other file.
+/// The size in pixels of such a picture, as it is shown, and of a JPEG of up to 250 million pixels;
+/// empty for any other file.
 QSize MeasurePicture(const QString &path);
 
 /// The size that a picture takes in a square of `side`, at least 1 x 1.

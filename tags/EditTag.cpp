@@ -90,4 +90,10 @@ QString TagText(const EditedTag &tag)
     return text + u'>';
 }
 
+void ReplaceTag(SourceView &source, const QString &text)
+{
+    source.AddUndo();
+    source.SetSelText(text);
+}
+
 } // namespace brenix

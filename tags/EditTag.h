@@ -59,4 +59,8 @@ bool IsEditable(QStringView selectedText);
 /// as they are. "TD" with "width" "5" and "nowrap" "" gives `<td width="5" nowrap>`.
 QString TagText(const EditedTag &tag);
 
+/// What OK does in a dialog that edits a tag: the text goes over the selected one as it is, after a
+/// snapshot.
+void ReplaceTag(SourceView &source, const QString &text);
+
 } // namespace brenix

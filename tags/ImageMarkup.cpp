@@ -83,8 +83,9 @@ QString ImageFile(const QString &source, const QString &folder)
     if (!isLocal && !start.endsWith(QDir::separator()))
         start += QDir::separator();
     const QString name = isLocal ? source.mid(7) : source;
-    const bool isPlain = QFile::exists(start + name);
-    return start + (isPlain ? name : QUrl::fromPercentEncoding(name.toUtf8()));
+    if (QFile::exists(start + name))
+        return start + name;
+    return start + QUrl::fromPercentEncoding(name.toUtf8()).replace(u'\\', u'/');
 }
 
 } // namespace brenix

@@ -32,7 +32,8 @@ Image ReadImage(QString tag);
 QString GeneratedAlternative(const Image &image);
 
 /// The file of an image address: what follows "file://" (in any case), otherwise the address in the
-/// page's folder. "%20" and its like stand for their characters, unless a file is really named so.
+/// page's folder. "%20" and its like stand for their characters, and "\" for "/", unless a file is
+/// really named so.
 QString ImageFile(const QString &source, const QString &folder);
 
 } // namespace brenix

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "support/FormDialog.h"
 
-class QComboBox;
-class QLineEdit;
-class QPushButton;
 class QTreeWidget;
 
 namespace brenix {
@@ -13,10 +10,8 @@ class DocumentModel;
 
 /// The attributes of the selected start tag as a grid of names and values. OK writes the tag over
 /// the selection.
-class frmEditTag : public QDialog
+class frmEditTag : public FormDialog
 {
-    Q_OBJECT
-
 public:
     /// The page's selection is the tag.
     explicit frmEditTag(DocumentModel &page, QWidget *parent = nullptr);
@@ -26,16 +21,15 @@ public:
     int exec() override;
     void accept() override;
 
+protected:
+    bool Accepted() override;
+
 private:
     bool IsRefused() const;
     void BuildGrid();
     void BuildFields();
-    void BuildButtons();
     void AddAttribute(const QString &name, const QString &value);
     void NewAttribute();
-    void RemoveAttribute();
-    void ChooseFile();
-    void PickColour();
     void ShowCurrent();
     void SetCurrent(int column, const QString &text);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Form.h"
+#include "support/FormDialog.h"
 
 namespace brenix {
 

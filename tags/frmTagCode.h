@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Form.h"
+#include "support/FormDialog.h"
 
 namespace brenix {
 
@@ -17,7 +17,7 @@ protected:
 
 private:
     DocumentModel &m_page;
-    QPlainTextEdit *m_text; // Text1
+    QString m_text; // Text1
 };
 
 } // namespace brenix

@@ -1,7 +1,6 @@
 #include "tags/frmTagDesigner.h"
 
 #include "editor/InsertMarkup.h"
-#include "support/ColourText.h"
 #include "support/DocumentModel.h"
 #include "tags/AttributeCatalogue.h"
 #include "tags/ChooseLink.h"
@@ -9,8 +8,6 @@
 #include "tags/TagDesignerText.h"
 #include "tags/TagNameList.h"
 
-#include <QBoxLayout>
-#include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,241 +22,157 @@ namespace brenix {
 
 namespace {
 
-    enum Step { TagStepNumber, AttributeStepNumber };
-    enum Panel { Drop, Colour, Hyper, NoOption, Default };
-
-    Panel PanelNumber(DesignerPanel panel)
+    QString PanelName(DesignerPanel panel)
     {
         switch (panel) {
         case DesignerPanel::FontDrop:
         case DesignerPanel::Drop:
-            return Drop;
+            return u"Drop"_s;
         case DesignerPanel::Color:
-            return Colour;
+            return u"Color"_s;
         case DesignerPanel::Hyper:
-            return Hyper;
+            return u"Hyper"_s;
         case DesignerPanel::NoOption:
-            return NoOption;
-        default:
-            return Default;
+            return u"NoOption"_s;
+        case DesignerPanel::Default:
+            break;
         }
+        return u"Default"_s;
     }
 
-    template <typename Control> Control *Named(const QString &name, Control *control)
+    QLineEdit *AddBox(Form &panel, const char16_t *name, const QString &caption)
     {
-        control->setObjectName(name);
-        return control;
-    }
-
-    // A panel of controls in a row, or below each other.
-    QWidget *Page(const QString &name, QBoxLayout::Direction direction, const QWidgetList &controls)
-    {
-        auto *page = Named(name, new QWidget);
-        auto *layout = new QBoxLayout(direction, page);
-        layout->setContentsMargins(0, 0, 0, 0);
-        for (QWidget *control : controls)
-            layout->addWidget(control);
-        if (direction == QBoxLayout::LeftToRight)
-            layout->setAlignment(Qt::AlignTop);
-        return page;
-    }
-
-    QPushButton *ChooserButton(const QString &name)
-    {
-        auto *button = Named(name, new QPushButton(u"..."_s));
-        button->setAutoDefault(false);
-        return button;
+        auto *box = new QLineEdit;
+        panel.Row(name, caption, box);
+        return box;
     }
 
 } // namespace
 
 frmTagDesigner::frmTagDesigner(DocumentModel &page, QWidget *parent)
-    : QDialog(parent)
+    : WizardDialog(
+        u"frmTagDesigner", u"Tag Designer"_s, {.title = u"Label1", .hint = u"Label4"}, parent)
     , m_page(page)
-    , m_title(Named(u"Label1"_s, new QLabel(this)))
-    , m_hint(Named(u"Label4"_s, new QLabel(this)))
-    , m_steps(new QStackedWidget(this))
 {
-    setObjectName(u"frmTagDesigner"_s);
-    setWindowTitle(u"Tag Designer"_s);
-    QFont heading = font();
-    heading.setBold(true);
-    m_title->setFont(heading);
-    m_steps->addWidget(TagStep());
-    m_steps->addWidget(AttributeStep());
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_title);
-    layout->addWidget(m_hint);
-    layout->addWidget(m_steps, 1);
-    BuildButtons();
-    ShowStep(TagStepNumber);
-    m_find->setFocus();
+    BuildTagStep();
+    BuildAttributeStep();
+    AddButtons({.back = u"Command2", .next = u"Command1", .cancel = u"Command3"});
+    AllowNext(false);
+    // Enter belongs to the boxes of the values.
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        button->setDefault(false);
+        button->setAutoDefault(false);
+    }
 }
 
-QWidget *frmTagDesigner::TagStep()
+void frmTagDesigner::BuildTagStep()
 {
-    m_find = Named(u"Text2"_s, new QLineEdit);
-    m_find->setAccessibleName(u"Find a tag"_s);
-    m_find->setPlaceholderText(u"Type to find a tag"_s);
-    m_tags = Named(u"List1"_s, new QListWidget);
-    m_tags->setAccessibleName(u"Tags"_s);
-    m_tags->addItems(InsertTagNames());
-    connect(m_find, &QLineEdit::textChanged, this, [this](const QString &start) {
-        m_tags->setCurrentRow(FindTagName(start));
+    Form &step = AddStep(u"Wiz1", u"Select Tag"_s, u"Select the tag you want to use"_s);
+    QLineEdit *find = AddBox(step, u"Text2", u"&Find:"_s);
+    QListWidget *tags = step.List(u"List1", u"&Tags:"_s, InsertTagNames(), m_tag);
+    connect(find, &QLineEdit::textChanged, tags, [tags](const QString &start) {
+        tags->setCurrentRow(FindTagName(start));
     });
-    connect(m_tags, &QListWidget::currentRowChanged, this, [this](int row) {
-        m_forward->setEnabled(row >= 0);
-    });
-    connect(m_tags, &QListWidget::itemActivated, this, &frmTagDesigner::Forward);
-    connect(m_find, &QLineEdit::returnPressed, this, &frmTagDesigner::Forward);
-    return Page(u"Wiz1"_s, QBoxLayout::TopToBottom, {m_find, m_tags});
+    connect(tags, &QListWidget::currentRowChanged, this, [this](int row) { AllowNext(row >= 0); });
+    connect(tags, &QListWidget::itemActivated, this, &frmTagDesigner::GoOn);
+    connect(find, &QLineEdit::returnPressed, this, &frmTagDesigner::GoOn);
+    find->setFocus();
 }
 
-QWidget *frmTagDesigner::AttributeStep()
+void frmTagDesigner::BuildAttributeStep()
 {
-    auto *help = Named(
-        u"Label3"_s,
-        new QLabel(
-            u"Select the properties you want to add for this tag. Remember that the property "
-            "list is dynamicly, so the properties listed is just the one that is allowed. "
-            "Press the Finish button to insert the tag + properties into your code."_s));
-    help->setWordWrap(true);
-    m_attributes = Named(u"List2"_s, new QListWidget);
-    m_attributes->setAccessibleName(u"Attributes"_s);
+    Form &step
+        = AddStep(u"Wiz2", u"Select Attributes"_s, u"Add the attribute you want for this tag"_s);
+    step.Note(u"Select the properties you want to add for this tag. Remember that the property "
+              "list is dynamicly, so the properties listed is just the one that is allowed. "
+              "Press the Finish button to insert the tag + properties into your code."_s)
+        ->setObjectName(u"Label3"_s);
+    const QList<Form *> columns = step.Columns({0, 1});
+    m_attributes = new QListWidget;
+    columns[0]->Below(u"List2", u"&Attributes:"_s, m_attributes);
     connect(m_attributes, &QListWidget::currentRowChanged, this, &frmTagDesigner::ShowPanel);
-    m_options = Named(u"Label7"_s, new QLabel);
-    m_code = Named(u"Code"_s, new QLineEdit);
-    m_code->setAccessibleName(u"Attributes of the tag"_s);
-    QWidget *right = Page({}, QBoxLayout::TopToBottom, {m_options, ValuePanels()});
-    QWidget *columns = Page({}, QBoxLayout::LeftToRight, {m_attributes, right});
-    columns->layout()->setAlignment({});
-    static_cast<QBoxLayout *>(columns->layout())->setStretch(1, 1);
-    return Page(u"Wiz2"_s, QBoxLayout::TopToBottom, {help, columns, m_code});
-}
-
-QWidget *frmTagDesigner::ValuePanels()
-{
+    m_options = columns[1]->Note({});
+    m_options->setObjectName(u"Label7"_s);
     m_panels = new QStackedWidget;
-    // In the order of the panel numbers.
-    for (QWidget *panel :
-         {DropPanel(), ColourPanel(), HyperPanel(), NoOptionPanel(), DefaultPanel()})
-        m_panels->addWidget(panel);
-    return m_panels;
+    columns[1]->Add(m_panels, 1);
+    BuildPanels();
+    m_code = step.Text(u"Code", u"Attributes &of the tag:"_s, m_collected);
 }
 
-QPushButton *frmTagDesigner::InsertButton(const QString &name, std::function<QString()> value)
+void frmTagDesigner::BuildPanels()
 {
-    auto *button = Named(name, new QPushButton(u"&Insert"_s));
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this, value = std::move(value)] {
-        m_code->setText(
-            m_code->text()
-            + (value ? DesignedAttribute(Attribute(), value()) : DesignedAttribute(Attribute())));
+    Form &drop = AddPanel(u"Drop");
+    m_drop = new QListWidget;
+    drop.Below(u"FontList", u"&Values:"_s, m_drop);
+    QPushButton *insert = AddInsert(drop, u"Command4", [this] {
+        const QListWidgetItem *value = m_drop->currentItem();
+        return DesignedAttribute(Attribute(), value ? value->text() : QString());
     });
+    connect(m_drop, &QListWidget::itemActivated, insert, &QPushButton::click);
+
+    Form &colour = AddPanel(u"Color");
+    QLineEdit *digits = AddBox(colour, u"Text3", u"&Color:"_s);
+    digits->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(u"[0-9A-Fa-f#]*"_s), digits));
+    colour.ChooserBeside(u"FButton1", u"C&hoose..."_s, ChooseColourText);
+    AddInsert(colour, u"Command7", digits);
+
+    Form &hyper = AddPanel(u"Hyper");
+    QLineEdit *address = AddBox(hyper, u"Text4", u"A&ddress:"_s);
+    address->setText(u"http://"_s);
+    hyper.ChooserBeside(
+        u"FButton2", u"C&hoose..."_s, [this](const QString &) { return ChooseTarget(); });
+    AddInsert(hyper, u"Command8", address);
+
+    Form &none = AddPanel(u"NoOption");
+    none.Note(u"This attribute has no options."_s)->setObjectName(u"Label8"_s);
+    AddInsert(none, u"Command6", [this] { return DesignedAttribute(Attribute()); });
+
+    Form &other = AddPanel(u"Default");
+    AddInsert(other, u"Command5", AddBox(other, u"Text1", u"&Value:"_s));
+}
+
+Form &frmTagDesigner::AddPanel(const char16_t *name)
+{
+    auto *panel = new QWidget;
+    panel->setObjectName(QString::fromUtf16(name));
+    m_panels->addWidget(panel);
+    return Rows().Inside(panel);
+}
+
+QPushButton *frmTagDesigner::AddInsert(Form &panel,
+                                       const char16_t *name,
+                                       std::function<QString()> attribute)
+{
+    QPushButton *button
+        = panel.Button(name, u"&Insert"_s, [this, attribute = std::move(attribute)] {
+              m_code->setText(m_code->text() + attribute());
+          });
+    panel.AddStretch();
     return button;
 }
 
-QWidget *frmTagDesigner::DropPanel()
+void frmTagDesigner::AddInsert(Form &panel, const char16_t *name, QLineEdit *value)
 {
-    m_drop = Named(u"FontList"_s, new QListWidget);
-    m_drop->setAccessibleName(u"Values"_s);
-    QPushButton *insert = InsertButton(u"Command4"_s, [this] {
-        return m_drop->currentItem() ? m_drop->currentItem()->text() : QString();
-    });
-    connect(m_drop, &QListWidget::itemActivated, insert, &QPushButton::click);
-    return Page(u"Drop"_s, QBoxLayout::TopToBottom, {m_drop, insert});
+    QPushButton *button = AddInsert(
+        panel, name, [this, value] { return DesignedAttribute(Attribute(), value->text()); });
+    connect(value, &QLineEdit::returnPressed, button, &QPushButton::click);
 }
 
-QWidget *frmTagDesigner::ColourPanel()
+void frmTagDesigner::Enter(int)
 {
-    m_colour = Named(u"Text3"_s, new QLineEdit);
-    m_colour->setAccessibleName(u"Color"_s);
-    m_colour->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(u"[0-9A-Fa-f#]*"_s), m_colour));
-    QPushButton *choose = ChooserButton(u"FButton1"_s);
-    choose->setAccessibleName(u"Choose a color"_s);
-    connect(choose, &QPushButton::clicked, this, [this] {
-        if (const std::optional<quint32> colour = ChooseColour(0))
-            m_colour->setText(ColourText(*colour));
-    });
-    QPushButton *insert = InsertButton(u"Command7"_s, [this] { return m_colour->text(); });
-    connect(m_colour, &QLineEdit::returnPressed, insert, &QPushButton::click);
-    return Page(u"Color"_s, QBoxLayout::LeftToRight, {m_colour, choose, insert});
-}
-
-QWidget *frmTagDesigner::HyperPanel()
-{
-    m_hyper = Named(u"Text4"_s, new QLineEdit(u"http://"_s));
-    m_hyper->setAccessibleName(u"Address"_s);
-    QPushButton *insert = InsertButton(u"Command8"_s, [this] { return m_hyper->text(); });
-    connect(m_hyper, &QLineEdit::returnPressed, insert, &QPushButton::click);
-    QPushButton *choose = ChooserButton(u"FButton2"_s);
-    choose->setAccessibleName(u"Choose a file"_s);
-    connect(choose, &QPushButton::clicked, this, &frmTagDesigner::ChooseTarget);
-    return Page(u"Hyper"_s, QBoxLayout::LeftToRight, {m_hyper, choose, insert});
-}
-
-QWidget *frmTagDesigner::NoOptionPanel()
-{
-    return Page(u"NoOption"_s,
-                QBoxLayout::LeftToRight,
-                {Named(u"Label8"_s, new QLabel(u"This attribute has no options."_s)),
-                 InsertButton(u"Command6"_s, {})});
-}
-
-QWidget *frmTagDesigner::DefaultPanel()
-{
-    m_default = Named(u"Text1"_s, new QLineEdit);
-    m_default->setAccessibleName(u"Value"_s);
-    QPushButton *insert = InsertButton(u"Command5"_s, [this] { return m_default->text(); });
-    connect(m_default, &QLineEdit::returnPressed, insert, &QPushButton::click);
-    return Page(u"Default"_s, QBoxLayout::LeftToRight, {m_default, insert});
-}
-
-void frmTagDesigner::BuildButtons()
-{
-    auto *row = new QDialogButtonBox(this);
-    m_back = Named(u"Command2"_s, row->addButton(u"&Back"_s, QDialogButtonBox::ActionRole));
-    m_forward = Named(u"Command1"_s, row->addButton(u"&Next"_s, QDialogButtonBox::ActionRole));
-    Named(u"Command3"_s, row->addButton(u"&Cancel"_s, QDialogButtonBox::RejectRole));
-    // Enter belongs to the boxes of the values.
-    for (QAbstractButton *button : row->buttons())
-        static_cast<QPushButton *>(button)->setAutoDefault(false);
-    m_forward->setEnabled(false);
-    connect(m_back, &QPushButton::clicked, this, [this] { ShowStep(TagStepNumber); });
-    connect(m_forward, &QPushButton::clicked, this, &frmTagDesigner::Forward);
-    connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    layout()->addWidget(row);
-}
-
-void frmTagDesigner::ShowStep(int step)
-{
-    const bool isFirst = step == TagStepNumber;
-    m_steps->setCurrentIndex(step);
-    m_title->setText(isFirst ? u"Select Tag"_s : u"Select Attributes"_s);
-    m_hint->setText(isFirst ? u"Select the tag you want to use"_s
-                            : u"Add the attribute you want for this tag"_s);
-    m_forward->setText(isFirst ? u"&Next"_s : u"&Finish"_s);
-    m_back->setEnabled(!isFirst);
-}
-
-void frmTagDesigner::Forward()
-{
-    const QListWidgetItem *tag = m_tags->currentItem();
-    if (!tag)
-        return;
-    if (m_steps->currentIndex() == AttributeStepNumber) {
-        InsertMarkup(m_page, DesignedTag(tag->text(), m_code->text()));
-        accept();
-        return;
-    }
     m_code->clear();
     m_attributes->clear();
-    m_attributes->addItems(DialogAttributesOfTag(tag->text()));
-    ShowStep(AttributeStepNumber);
+    m_attributes->addItems(DialogAttributesOfTag(m_tag));
     ShowPanel(); // also for a tag without attributes
     m_attributes->setCurrentRow(0);
     m_attributes->setFocus();
+}
+
+bool frmTagDesigner::Accepted()
+{
+    InsertMarkup(m_page, DesignedTag(m_tag, m_collected));
+    return true;
 }
 
 QString frmTagDesigner::Attribute() const
@@ -273,24 +186,19 @@ void frmTagDesigner::ShowPanel()
     m_panels->setVisible(!attribute.isEmpty());
     m_options->setText(attribute.isEmpty() ? QString() : u"Options for "_s + attribute);
     const DesignerPanel panel = PanelOfAttribute(attribute);
-    m_panels->setCurrentIndex(PanelNumber(panel));
+    m_panels->setCurrentWidget(m_panels->findChild<QWidget *>(PanelName(panel)));
     m_drop->clear();
     m_drop->addItems(panel == DesignerPanel::FontDrop ? QFontDatabase::families()
                                                       : DropValues(attribute));
     m_drop->setCurrentRow(0);
 }
 
-void frmTagDesigner::ChooseTarget()
+QString frmTagDesigner::ChooseTarget()
 {
-    const QString path = OpenFileName(LinkTargets());
-    if (path.isEmpty())
-        return;
-    if (!path.endsWith(u"url")) {
-        m_hyper->setText(LinkTo(m_page, path));
-        return;
-    }
-    if (const std::optional<QString> line = ShortcutLine(path))
-        m_hyper->setText(DesignerShortcutAddress(*line));
+    const QString path = OpenFileName(LinkTargets(m_page));
+    if (path.endsWith(u"url"))
+        return DesignerShortcutAddress(ShortcutLine(path).value_or(QString()));
+    return path.isEmpty() ? path : LinkTo(m_page, path);
 }
 
 } // namespace brenix

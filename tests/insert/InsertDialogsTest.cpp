@@ -11,6 +11,8 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <sys/stat.h>
+
 using namespace brenix;
 using namespace Qt::StringLiterals;
 
@@ -82,6 +84,9 @@ TEST_F(InsertDialogs, Hyperlink)
         Enter(dialog);
     });
     EXPECT_EQ(Text(), u"<a href=\"old.html\">go</a>"_s);
+    EXPECT_EQ(Active().Modyfied(), u"1"_s);
+    Trigger(u"mnuEditUndo"_s);
+    EXPECT_EQ(Text(), u"<A HREF=\"Old.htm\" title=\"x\">go</a>"_s);
 
     StartWith("<a name=\"top\">x</a>", 19);
     Run(u"mnuInsertHyperlink"_s, [](QWidget &dialog) {
@@ -162,8 +167,12 @@ TEST_F(InsertDialogs, Image)
     const QByteArray jpeg = Read(folder.filePath(u"p.jpg"_s));
     Write(u"torn.jpg"_s, jpeg.first(jpeg.size() / 2));
     Write(u"cut.jpg"_s, jpeg.chopped(3)); // within the scan
+    QImage(8000, 4100, QImage::Format_Grayscale8).save(folder.filePath(u"camera.jpg"_s));
+    ASSERT_EQ(mkfifo(qPrintable(folder.filePath(u"pipe.gif"_s)), 0600), 0);
 
-    const std::pair<QString, QString> cases[] = {{u"p.png"_s, u"12x7"_s},
+    const std::pair<QString, QString> cases[] = {{u"camera.jpg"_s, u"8000x4100"_s},
+                                                 {u"pipe.gif"_s, u"x"_s},
+                                                 {u"p.png"_s, u"12x7"_s},
                                                  {u"p.jpg"_s, u"12x7"_s},
                                                  {u"p.bmp"_s, u"12x7"_s},
                                                  {u"p.svg"_s, u"12x7"_s},
@@ -190,9 +199,10 @@ TEST_F(InsertDialogs, Image)
                       u"Unable to calculate width and height for the file: "_s
                           + folder.filePath(name));
         else
-            EXPECT_EQ(Text(),
-                      u"<img src=\"%1\" alt=\"image: %1 (12x7)\" border=\"\" height=\"7\" "
-                      "width=\"12\">"_s.arg(name));
+            EXPECT_EQ(
+                Text(),
+                u"<img src=\"%1\" alt=\"image: %1 (%2)\" border=\"\" height=\"%4\" "
+                "width=\"%3\">"_s.arg(name, size, size.section(u'x', 0, 0), size.section(u'x', 1)));
     }
     StartWith("<img src=\"p.png\" align=\"absmiddle\">", 3);
     Run(u"mnuEditTag"_s, [](QWidget &dialog) { Enter(dialog); });

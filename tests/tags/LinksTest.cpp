@@ -92,6 +92,7 @@ TEST_F(LinkFiles, FindsThePictureOfAnAddress)
     const QString start = folder.path() + QDir::separator();
     EXPECT_EQ(ImageFile(u"50%20.gif"_s, folder.path()), plain);
     EXPECT_EQ(ImageFile(u"a%20b.gif"_s, start), blank);
+    EXPECT_EQ(ImageFile(u"x\\..\\a%20b.gif"_s, start), start + u"x/../a b.gif"_s);
     EXPECT_EQ(ImageFile(u"FILE://"_s + start + u"a%20b.gif"_s, {}), blank);
     EXPECT_EQ(ImageFile(u"none.gif"_s, folder.path()), start + u"none.gif"_s);
 }
