@@ -126,7 +126,7 @@ void frmOptions::BuildPages()
         auto *frame = new QWidget(m_stack);
         frame->setObjectName(QString::fromUtf16(page.name));
         m_stack->addWidget(frame);
-        Form &form = AddForm(frame);
+        Form &form = Rows().Inside(frame);
         (this->*page.build)(form);
         form.AddStretch();
     }
@@ -136,13 +136,6 @@ void frmOptions::BuildPages()
     m_tree->setFixedWidth(m_tree->columnWidth(0) + 2 * m_tree->frameWidth()
                           + m_tree->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     m_tree->header()->setStretchLastSection(true);
-}
-
-Form &frmOptions::AddForm(QWidget *page)
-{
-    m_forms.push_back(std::make_unique<Form>(page));
-    page->layout()->setContentsMargins(0, 0, 0, 0);
-    return *m_forms.back();
 }
 
 void frmOptions::ShowPage(const QTreeWidgetItem *item)
@@ -157,14 +150,12 @@ void frmOptions::ShowPage(const QTreeWidgetItem *item)
 void frmOptions::LoadForms()
 {
     m_fontSize = QString::number(m_options.fontSize);
-    for (const std::unique_ptr<Form> &form : m_forms)
-        form->Load();
+    Rows().Load();
 }
 
 void frmOptions::StoreForms()
 {
-    for (const std::unique_ptr<Form> &form : m_forms)
-        form->Store();
+    Rows().Store();
     m_options.fontSize = m_fontSize.toInt();
 }
 

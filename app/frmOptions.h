@@ -32,7 +32,6 @@ private:
     struct Page;
     static const Page Pages[];
 
-    Form &AddForm(QWidget *page);
     void BuildPages();
     void ShowPage(const QTreeWidgetItem *item);
     void LoadForms();
@@ -60,7 +59,6 @@ private:
 
     Options m_options;
     QString m_fontSize; // the list's text for the number
-    std::vector<std::unique_ptr<Form>> m_forms;
     QTreeWidget *m_tree;
     QStackedWidget *m_stack;
     QLabel *m_title;

@@ -2,7 +2,6 @@
 #include "support/ColourButton.h"
 #include "support/MessageBoxes.h"
 
-#include <QBoxLayout>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -59,19 +58,12 @@ void frmOptions::BuildColors(Form &form)
 
 void frmOptions::BuildFont(Form &form)
 {
-    auto *lists = new QWidget;
-    auto *columns = new QHBoxLayout(lists);
-    columns->setContentsMargins(0, 0, 0, 0);
-    auto *left = new QWidget;
-    auto *right = new QWidget;
-    columns->addWidget(left, 3);
-    columns->addWidget(right, 1);
-    m_fonts = AddForm(left).List(u"List1", u"&Font:"_s, {}, m_options.fontName);
+    const QList<Form *> columns = form.Columns({3, 1}, 1);
+    m_fonts = columns[0]->List(u"List1", u"&Font:"_s, {}, m_options.fontName);
     QStringList sizes;
     for (int size = LeastFontSize; size <= MostFontSize; ++size)
         sizes += QString::number(size);
-    AddForm(right).List(u"List2", u"&Size:"_s, sizes, m_fontSize);
-    form.Add(lists, 1);
+    columns[1]->List(u"List2", u"&Size:"_s, sizes, m_fontSize);
 }
 
 void frmOptions::BuildSyntaxLanguage(Form &form)

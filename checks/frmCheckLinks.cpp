@@ -73,8 +73,7 @@ frmCheckLinks::frmCheckLinks(DocumentModel &page, QWidget *parent, Maker makeTes
     Rows().Add(m_list, 1);
     m_try = Rows().Button(u"Command2", u"&Try the links to the web"_s, [this] { TryWebLinks(); });
     m_try->setEnabled(false);
-    AddButtons({.ok = u"Command1", .cancel = nullptr});
-    findChild<QPushButton *>(u"Command1"_s)->setText(u"&Close"_s);
+    AddButtons({.ok = u"Command1", .cancel = nullptr, .okCaption = u"&Close"_s});
     StartWhenShown([this] { Check(); });
 }
 

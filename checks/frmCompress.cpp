@@ -59,8 +59,7 @@ frmCompress::frmCompress(DocumentModel &page, QWidget *parent)
     m_help->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     m_help->setMinimumSize(fontMetrics().averageCharWidth() * HelpCharacters,
                            fontMetrics().lineSpacing() * HelpLines);
-    AddButtons({.ok = u"Command1", .cancel = u"Command2"});
-    findChild<QPushButton *>(u"Command1"_s)->setText(u"&Start"_s);
+    AddButtons({.ok = u"Command1", .cancel = u"Command2", .okCaption = u"&Start"_s});
 
     m_start.setSingleShot(true);
     m_start.setInterval(1);

@@ -44,10 +44,11 @@ frmGlobalSearch::frmGlobalSearch(const QString &folder, QWidget *parent)
         ->setToolTip(u"Browse Folders"_s);
     Rows().Combo(u"Combo1", u"File &Type"_s, FileTypes, m_fields.type);
     AddReport();
-    AddButtons({.ok = u"cmdStart", .cancel = u"Command1"});
+    AddButtons({.ok = u"cmdStart",
+                .cancel = u"Command1",
+                .okCaption = u"&Replace"_s,
+                .cancelCaption = u"&Close"_s});
     m_start = findChild<QPushButton *>(u"cmdStart"_s);
-    m_start->setText(u"&Replace"_s);
-    findChild<QPushButton *>(u"Command1"_s)->setText(u"&Close"_s);
     connect(find, &QLineEdit::textChanged, this, &frmGlobalSearch::AllowStart);
     AllowStart();
     find->setMinimumWidth(fontMetrics().averageCharWidth() * CharactersWide);

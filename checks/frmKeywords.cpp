@@ -55,9 +55,10 @@ frmKeywords::frmKeywords(DocumentModel &page, QWidget *parent)
     m_words->setMinimumSize(fontMetrics().averageCharWidth() * CharactersWide,
                             fontMetrics().lineSpacing() * WordsHigh);
     Rows().Add(m_words, 1);
-    AddButtons({.ok = u"Command5", .cancel = u"Command7"});
-    findChild<QPushButton *>(u"Command5"_s)->setText(u"&Next"_s);
-    findChild<QPushButton *>(u"Command7"_s)->setText(u"&Close"_s);
+    AddButtons({.ok = u"Command5",
+                .cancel = u"Command7",
+                .okCaption = u"&Next"_s,
+                .cancelCaption = u"&Close"_s});
     ShowStep(
         QStyle::SP_FileIcon, u"Begin analyze"_s, u"Press next to start analyzing the document"_s);
 }

@@ -46,7 +46,7 @@ frmHyperlink::frmHyperlink(DocumentModel &page, Mode mode, QWidget *parent)
     if (mode == Mode::Edit)
         m_link = ReadHyperlink(page.rtfText().SelText());
     BuildKinds();
-    const QList<Form *> columns = Rows().Columns({0, 1});
+    const QList<Form *> columns = Rows().Columns({0, 1}, 1);
     columns[0]->Below(u"TW", {}, m_kinds);
     m_kinds->setAccessibleName(u"Kind of link"_s);
     columns[1]->Add(m_pages, 1);

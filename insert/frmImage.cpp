@@ -71,8 +71,7 @@ void frmImage::BuildSizes()
 {
     m_width = Rows().Text(u"Text3", u"&Width"_s, m_image.width);
     m_height = Rows().Text(u"Text4", u"H&eight"_s, m_image.height);
-    for (const QLineEdit *size : {m_width, m_height})
-        connect(size, &QLineEdit::textChanged, this, &frmImage::MarkSizes);
+    Rows().WhenChanged([this] { MarkSizes(); });
     MarkSizes();
     Rows().Combo(u"Combo1", u"Bo&rder"_s, Borders(), m_image.border);
     QStringList alignments{u"(None)"_s, u"Left"_s, u"Right"_s, u"Top"_s, u"Middle"_s, u"Bottom"_s};
@@ -106,7 +105,7 @@ void frmImage::ChoosePicture()
 
 QString frmImage::PictureFile() const
 {
-    return ImageFile(m_source->currentText(), m_page.Folder());
+    return ImageFile(m_image.source, m_page.Folder());
 }
 
 void frmImage::ReadSize()
@@ -132,7 +131,6 @@ void frmImage::ViewPicture()
 
 void frmImage::GenerateAlternative()
 {
-    Rows().Store();
     m_alternative->setText(GeneratedAlternative(m_image));
 }
 

@@ -86,7 +86,7 @@ public:
                                std::function<QString(const QString &text)> choose);
     /// A paragraph over the whole width.
     QLabel *Note(const QString &text);
-    /// Any other control over the whole width.
+    /// Any other control over the whole width; `stretch` is its share of the height that is left.
     void Add(QWidget *control, int stretch = 0);
     /// The rows keep to the top when the page is higher, unless one of them takes the room.
     void AddStretch();
@@ -95,7 +95,7 @@ public:
     /// changes. In a frame with a title; side by side, each as wide as its share; on a page of a
     /// stack or of tabs, to which the caller adds it.
     Form &Group(const char16_t *name, const QString &title);
-    QList<Form *> Columns(const QList<int> &shares);
+    QList<Form *> Columns(const QList<int> &shares, int stretch = 0);
     Form &Inside(QWidget *page);
 
     /// Shows the fields' values again, and takes the controls' values into the fields.

@@ -56,10 +56,10 @@ void FormDialog::AddHelp(QDialogButtonBox &row,
 void FormDialog::AddButtons(const ButtonNames &names, std::function<void()> help)
 {
     QDialogButtonBox *row = AddButtonRow();
-    AddButton(*row, QDialogButtonBox::Ok, u"&OK"_s, names.ok)->setDefault(true);
+    AddButton(*row, QDialogButtonBox::Ok, names.okCaption, names.ok)->setDefault(true);
     connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
     if (names.cancel) {
-        AddButton(*row, QDialogButtonBox::Cancel, u"&Cancel"_s, names.cancel);
+        AddButton(*row, QDialogButtonBox::Cancel, names.cancelCaption, names.cancel);
         connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
     }
     if (names.help && help)

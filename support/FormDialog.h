@@ -27,6 +27,8 @@ protected:
         const char16_t *ok;
         const char16_t *cancel;
         const char16_t *help = nullptr;
+        QString okCaption = QStringLiteral("&OK");
+        QString cancelCaption = QStringLiteral("&Cancel");
     };
     void AddButtons(const ButtonNames &names, std::function<void()> help = {});
     /// What OK does with the fields; false keeps the dialog open.

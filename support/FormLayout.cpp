@@ -162,7 +162,7 @@ Form &Form::Group(const char16_t *name, const QString &title)
     return form;
 }
 
-QList<Form *> Form::Columns(const QList<int> &shares)
+QList<Form *> Form::Columns(const QList<int> &shares, int stretch)
 {
     auto *row = new QWidget(m_page);
     auto *layout = new QHBoxLayout(row);
@@ -173,7 +173,7 @@ QList<Form *> Form::Columns(const QList<int> &shares)
         layout->addWidget(page, share);
         columns.append(&Inside(page));
     }
-    Add(row, 1);
+    Add(row, stretch);
     return columns;
 }
 

@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QHeaderView>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -53,12 +54,15 @@ void frmEditTag::BuildGrid()
     m_grid->setMinimumWidth(fontMetrics().averageCharWidth() * 64);
     connect(m_grid, &QTreeWidget::currentItemChanged, this, &frmEditTag::ShowCurrent);
 
-    const QList<Form *> columns = Rows().Columns({1, 0});
+    const QList<Form *> columns = Rows().Columns({1, 0}, 1);
     columns[0]->Below(u"LI", {}, m_grid);
     m_grid->setAccessibleName(u"Attributes"_s);
-    columns[1]->Button(u"Command3", u"&New Attribute"_s, [this] { NewAttribute(); });
-    columns[1]->Button(
+    QPushButton *add
+        = columns[1]->Button(u"Command3", u"&New Attribute"_s, [this] { NewAttribute(); });
+    QPushButton *remove = columns[1]->Button(
         u"Command4", u"&Remove Attribute"_s, [this] { delete m_grid->currentItem(); });
+    for (QPushButton *button : {add, remove})
+        button->parentWidget()->layout()->setAlignment(button, {}); // both of one width
     columns[1]->AddStretch();
 }
 

@@ -87,7 +87,7 @@ void frmTagDesigner::BuildAttributeStep()
               "list is dynamicly, so the properties listed is just the one that is allowed. "
               "Press the Finish button to insert the tag + properties into your code."_s)
         ->setObjectName(u"Label3"_s);
-    const QList<Form *> columns = step.Columns({0, 1});
+    const QList<Form *> columns = step.Columns({0, 1}, 1);
     m_attributes = new QListWidget;
     columns[0]->Below(u"List2", u"&Attributes:"_s, m_attributes);
     connect(m_attributes, &QListWidget::currentRowChanged, this, &frmTagDesigner::ShowPanel);
@@ -111,7 +111,7 @@ void frmTagDesigner::BuildPanels()
     connect(m_drop, &QListWidget::itemActivated, insert, &QPushButton::click);
 
     Form &colour = AddPanel(u"Color");
-    QLineEdit *digits = AddBox(colour, u"Text3", u"&Color:"_s);
+    QLineEdit *digits = AddBox(colour, u"Text3", u"Co&lor:"_s);
     digits->setValidator(
         new QRegularExpressionValidator(QRegularExpression(u"[0-9A-Fa-f#]*"_s), digits));
     colour.ChooserBeside(u"FButton1", u"C&hoose..."_s, ChooseColourText);

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
@@ -207,6 +208,74 @@ TEST_F(InsertDialogs, Image)
     StartWith("<img src=\"p.png\" align=\"absmiddle\">", 3);
     Run(u"mnuEditTag"_s, [](QWidget &dialog) { Enter(dialog); });
     EXPECT_EQ(Text(), u"<img src=\"p.png\" alt=\"\" border=\"\" align=\"Absmiddle\">"_s);
+}
+
+TEST_F(InsertDialogs, FilesAndColorsAreChosen)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"sub"_s));
+    for (const QString &name : {u"sub/a b.htm"_s, u"x.URL"_s, u"y.url"_s})
+        Write(name, "[InternetShortcut]\r\nURL=http://x.org/?a=b\r\n");
+    ASSERT_TRUE(QImage(12, 7, QImage::Format_RGB32).save(folder.filePath(u"p.png"_s)));
+    struct Case
+    {
+        QString command;
+        QString button;
+        QString field;
+        QString file; // nothing is chosen when empty
+        QString text;
+    };
+    const Case cases[] = {
+        {u"mnuInsertHyperlink"_s,
+         u"Command4"_s,
+         u"AutoComplete1"_s,
+         u"sub/a b.htm"_s,
+         u"sub/a%20b.htm"_s},
+        {u"mnuInsertHyperlink"_s,
+         u"Command4"_s,
+         u"AutoComplete1"_s,
+         u"x.URL"_s,
+         u"http://x.org/?a=b"_s},
+        {u"mnuInsertHyperlink"_s, u"Command4"_s, u"AutoComplete1"_s, {}, {}},
+        {u"mnuInsertImage"_s, u"Command3"_s, u"Text1"_s, u"p.png"_s, u"p.png"_s},
+        {u"mnuInsertImage"_s, u"Command3"_s, u"Text3"_s, u"p.png"_s, u"12"_s},
+        {u"mnuInsertImage"_s, u"FButton1"_s, u"Combo3"_s, u"y.url"_s, u"y.url"_s},
+        {u"mnuEditTag"_s, u"FButton1"_s, u"Text2"_s, u"sub/a b.htm"_s, u"sub/a%20b.htm"_s},
+        {u"mnuEditTag"_s, u"FButton1"_s, u"Text2"_s, {}, u"#00ff00"_s},
+        {u"mnuEditTag"_s, u"FButton2"_s, u"Text2"_s, {}, u"#FF8000"_s},
+        {u"mnuTagDesigner"_s, u"FButton2"_s, u"Text4"_s, u"y.url"_s, u"x.org/?a=b"_s},
+        {u"mnuTagDesigner"_s, u"FButton2"_s, u"Text4"_s, u"x.URL"_s, u"x.URL"_s},
+        {u"mnuTagDesigner"_s, u"FButton1"_s, u"Text3"_s, {}, u"#FF8000"_s},
+    };
+    QList<quint32> colours;
+    Scripted().chooseColour = [&](quint32 colour) {
+        colours.append(colour);
+        return std::optional<quint32>(0x0080FF);
+    };
+    for (const Case &row : cases) {
+        SCOPED_TRACE(qPrintable(row.command + u' ' + row.button + u' ' + row.file));
+        StartWith("<td bgcolor=\"#00ff00\">", 3);
+        boxes.file = row.file.isEmpty() ? QString() : folder.filePath(row.file);
+        Run(row.command, [&](QWidget &dialog) {
+            Push(dialog, row.button);
+            const auto *field = dialog.findChild<QWidget *>(row.field);
+            const auto *combo = qobject_cast<const QComboBox *>(field);
+            EXPECT_EQ(combo ? combo->currentText() : field->property("text").toString(), row.text);
+        });
+    }
+    EXPECT_EQ(boxes.proposed, folder.path() + u'/') << "the choosers start beside the page";
+    EXPECT_EQ(colours, QList<quint32>({0x00FF00, 0}));
+    EXPECT_EQ(boxes.asked, QStringList());
+
+    window->LoadNewDoc();
+    boxes.file = folder.filePath(u"sub/a b.htm"_s);
+    Run(u"mnuInsertHyperlink"_s, [](QWidget &dialog) {
+        Push(dialog, u"Command4"_s);
+        Enter(dialog);
+    });
+    EXPECT_THAT(boxes.asked.value(0).toStdString(),
+                testing::StartsWith("You should save your document before using this feature."));
+    EXPECT_TRUE(
+        Text().contains(u"<a href=\"file://"_s + folder.path().toLower() + u"/sub/a%20b.htm\">"_s));
 }
 
 TEST_F(InsertDialogs, TagAndDesigner)
