@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -68,6 +69,11 @@ frmHelp::frmHelp(const QString &folder, QWidget *owner)
     m_tabs->addTab(BuildContents(), u"&Contents"_s);
     m_tabs->addTab(BuildSearch(), u"&Search"_s);
     m_tabs->addTab(BuildIndex(), u"&Index"_s);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        // Who goes along the tabs by arrow keys stays there.
+        if (!m_tabs->tabBar()->hasFocus())
+            m_tabs->currentWidget()->setFocus();
+    });
     auto *halves = new QSplitter(this);
     halves->addWidget(m_tabs);
     halves->addWidget(m_topic);

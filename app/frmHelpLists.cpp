@@ -64,6 +64,7 @@ QWidget *frmHelp::BuildSearch()
     layout->addWidget(label);
     layout->addWidget(m_words);
     layout->addWidget(m_hits, 1);
+    page->setFocusProxy(m_words);
     connect(m_words, &QLineEdit::textChanged, this, &frmHelp::Search);
     connect(m_words, &QLineEdit::returnPressed, this, [this] { ShowHit(0); });
     const auto show = [this](QListWidgetItem *hit) { ShowHit(m_hits->row(hit)); };

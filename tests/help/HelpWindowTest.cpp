@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QTreeWidget>
@@ -108,6 +109,8 @@ TEST_F(HelpWindow, SearchAndIndexLeadToTopics)
 
     Trigger(u"mnuHTMLreference"_s);
     EXPECT_EQ(File(), u"index.html"_s);
+    Find<QTabWidget>(u"Tabs"_s).setCurrentIndex(2);
+    EXPECT_EQ(Help()->focusWidget()->objectName(), u"Filter"_s) << "ready to be typed into";
     auto &index = *Find<QWidget>(u"Keywords"_s).findChild<QTreeWidget *>();
     emit index.itemClicked(index.findItems(u"LargeFile"_s, Qt::MatchExactly).value(0), 0);
     EXPECT_EQ(File(), u"settings.html"_s);
