@@ -74,11 +74,10 @@ void frmImage::BuildSizes()
     Rows().WhenChanged([this] { MarkSizes(); });
     MarkSizes();
     Rows().Combo(u"Combo1", u"Bo&rder"_s, Borders(), m_image.border);
-    QStringList alignments{u"(None)"_s, u"Left"_s, u"Right"_s, u"Top"_s, u"Middle"_s, u"Bottom"_s};
-    // The tag may have one that is not offered, as "absmiddle".
-    if (!alignments.contains(m_image.alignment))
-        alignments.append(m_image.alignment);
-    Rows().Choice(u"Combo2", u"Image Align&ment"_s, alignments, m_image.alignment);
+    Rows().Choice(u"Combo2",
+                  u"Image Align&ment"_s,
+                  {u"(None)"_s, u"Left"_s, u"Right"_s, u"Top"_s, u"Middle"_s, u"Bottom"_s},
+                  m_image.alignment);
 }
 
 void frmImage::BuildLink()

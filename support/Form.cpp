@@ -96,7 +96,11 @@ QComboBox *Form::Choice(const char16_t *name,
     Bind(
         box,
         &QComboBox::currentTextChanged,
-        [box, &field] { box->setCurrentText(field); },
+        [box, &field] {
+            if (!field.isEmpty() && box->findText(field) < 0)
+                box->addItem(field);
+            box->setCurrentText(field);
+        },
         [box, &field] { field = box->currentText(); });
     return box;
 }

@@ -35,7 +35,7 @@ public:
 
     QLineEdit *Text(const char16_t *name, const QString &caption, QString &field);
     QCheckBox *Check(const char16_t *name, const QString &caption, bool &field);
-    /// One of the items.
+    /// One of the items; a value that is none of them, as a tag may have it, is offered last.
     QComboBox *Choice(const char16_t *name,
                       const QString &caption,
                       const QStringList &items,

@@ -98,6 +98,11 @@ TEST_F(FormRows, ShowAndTakeTheirFields)
     form.Load();
     form.Store();
     EXPECT_EQ(fields, Fields());
+
+    fields.choice = u"three"_s;
+    form.Load();
+    form.Store();
+    EXPECT_EQ(fields.choice, u"three"_s) << "no value is lost because it is not offered";
 }
 
 TEST_F(FormRows, TellOfChangesWithTheFieldsUpToDate)
