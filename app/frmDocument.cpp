@@ -14,6 +14,7 @@
 #include "support/UntitledPages.h"
 
 #include <QCloseEvent>
+#include <QFile>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -249,7 +250,7 @@ void frmDocument::Form_Activate()
 void frmDocument::FollowCaption()
 {
     ShowTitle();
-    m_copyStale = true;
+    m_copyStamp.clear();
     RefreshPreview(0);
 }
 
@@ -266,7 +267,7 @@ void frmDocument::OnSourceChange()
         Modyfied = u"1"_s;
         KeyDone = true;
     }
-    m_copyStale = true;
+    m_copyStamp.clear();
     if (Status() != u"Split")
         return;
     if (!m_copyWriter.isActive())
@@ -291,18 +292,31 @@ void frmDocument::WritePreview()
     if (!Banen().isEmpty() && Banen() != path)
         DropPreviewCopy(Banen());
     Banen = path;
-    // A copy that cannot be written leaves the preview with the one before.
-    if (m_copyStale || !QFile::exists(path))
-        m_copyStale = !WritePreviewCopy(path, m_source->FileBytes());
+    // Another window on the same page may have written it since.
+    if (PreviewCopyStamp(path) == m_copyStamp)
+        return;
+    const bool isWritten = WritePreviewCopy(path, m_source->FileBytes());
+    m_copyStamp = isWritten ? PreviewCopyStamp(path) : QByteArray();
 }
 
-bool frmDocument::WriteBrowserCopy()
+// A copy that cannot be written leaves the preview with the one before, which is the page's own
+// file where there never was one.
+QString frmDocument::ShownFile() const
+{
+    if (Banen().isEmpty() || QFile::exists(Banen()))
+        return Banen();
+    return QFile::exists(Caption()) ? Caption() : QString();
+}
+
+QString frmDocument::WriteBrowserCopy()
 {
     WritePreview();
-    if (Banen().isEmpty() || !HoldsDesignText())
-        return !Banen().isEmpty();
-    m_copyStale = true; // the source does not hold this text
-    return m_design->SaveDocument(Banen());
+    if (!Banen().isEmpty() && HoldsDesignText()) {
+        m_copyStamp.clear(); // the source does not hold this text
+        if (!m_design->SaveDocument(Banen()))
+            return {};
+    }
+    return ShownFile();
 }
 
 void frmDocument::RefreshPreview(int milliseconds)
@@ -325,7 +339,8 @@ void frmDocument::OnRefresher()
         return;
     KeyDone = false;
     WritePreview();
-    m_browser->Navigate(Banen().isEmpty() ? u"about:blank"_s : u"file://"_s + Banen());
+    const QString file = ShownFile();
+    m_browser->Navigate(file.isEmpty() ? u"about:blank"_s : u"file://"_s + file);
 }
 
 // Saving leaves the design view as it is. False, after a message, when its text cannot be had: then

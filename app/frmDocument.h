@@ -48,8 +48,9 @@ public:
     bool SaveAs(const QString &title);
     /// Writes the page, as its view has it, to a file that does not become its own.
     bool SaveCopy(const QString &path);
-    /// Brings the preview copy up to what the current view shows. False when there is none.
-    bool WriteBrowserCopy();
+    /// Brings the preview copy up to what the current view shows, and gives the file that a browser
+    /// shows for it; empty when there is none.
+    QString WriteBrowserCopy();
     /// Renews the preview soon, as the view bar and F5 do.
     void RefreshPreview(int milliseconds);
     /// What the main window must know again when this window becomes active or gets another name.
@@ -92,6 +93,7 @@ private:
     int SplitPosition() const;
     void OnSourceChange();
     void OnRefresher();
+    QString ShownFile() const;
     void FollowCaption();
     void ShowTitle();
     void SaveByItself();
@@ -118,7 +120,7 @@ private:
     QTimer m_previewStart;
     double m_splitShare = 0.5; // of the window, for the part before the bar
     bool m_loading = false;
-    bool m_copyStale = false;
+    QByteArray m_copyStamp; // of the preview copy with the text of the source; empty without one
     bool m_mayClose = false; // the author has been asked
     bool m_autoSaveFailed = false; // and was told
 };

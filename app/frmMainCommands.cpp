@@ -223,8 +223,9 @@ void frmMain::FillBrowserMenu()
         item->setEnabled(!browser.path.isEmpty());
         connect(item, &QAction::triggered, this, [this, number] {
             ForActive([&](frmDocument &document) {
-                if (document.WriteBrowserCopy())
-                    StartBrowser(BrowserAt(number), document.Banen());
+                const QString file = document.WriteBrowserCopy();
+                if (!file.isEmpty())
+                    StartBrowser(BrowserAt(number), file);
             });
         });
     }

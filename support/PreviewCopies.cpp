@@ -24,23 +24,12 @@ namespace {
         return AppPath(u"Recovery/Previews/") + QString::fromLatin1(hash);
     }
 
-    QByteArray Stamp(const QString &path)
-    {
-        const QFileInfo file(path);
-        if (file.isSymLink())
-            return "link";
-        if (!file.exists())
-            return "none";
-        return QByteArray::number(file.size()) + ' '
-            + QByteArray::number(file.lastModified().toMSecsSinceEpoch());
-    }
-
     bool WriteEntry(const QString &path)
     {
         const QString name = EntryName(path);
         QDir().mkpath(QFileInfo(name).path());
         QFile entry(name);
-        const QByteArray line = Stamp(path) + '\n' + path.toUtf8() + '\n';
+        const QByteArray line = PreviewCopyStamp(path) + '\n' + path.toUtf8() + '\n';
         return entry.open(QIODevice::WriteOnly) && entry.write(line) == line.size()
             && entry.flush();
     }
@@ -56,16 +45,27 @@ namespace {
 
     bool IsMissing(const QString &path)
     {
-        return Stamp(path) == "none";
+        return PreviewCopyStamp(path) == "none";
     }
 
     bool IsOurs(const QString &path)
     {
         const std::optional<QByteArray> registered = RegisteredStamp(path);
-        return registered && (IsMissing(path) || *registered == Stamp(path));
+        return registered && (IsMissing(path) || *registered == PreviewCopyStamp(path));
     }
 
 } // namespace
+
+QByteArray PreviewCopyStamp(const QString &path)
+{
+    const QFileInfo file(path);
+    if (file.isSymLink())
+        return "link";
+    if (!file.exists())
+        return "none";
+    return QByteArray::number(file.size()) + ' '
+        + QByteArray::number(file.lastModified().toMSecsSinceEpoch());
+}
 
 QString ClaimPreviewCopy(const QString &wanted)
 {

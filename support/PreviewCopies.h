@@ -16,6 +16,9 @@ QString ClaimPreviewCopy(const QString &wanted);
 /// Writes a preview copy without waiting for the disk; false when it cannot be written. Never
 /// touches a file that was not claimed.
 bool WritePreviewCopy(const QString &path, const QByteArray &bytes);
+/// What the copy looks like now, to be compared later; never empty. A page that is open twice has
+/// one copy, which each of its windows writes.
+QByteArray PreviewCopyStamp(const QString &path);
 /// Deletes a claimed copy and forgets it; does nothing for any other path.
 void DropPreviewCopy(const QString &path);
 

@@ -246,6 +246,32 @@ TEST_F(DocumentWindow, PreviewCopyIsNeverWrittenOverAPageOfTheAuthors)
     EXPECT_FALSE(QFile::exists(folder.filePath(u"page__.html"_s)));
 }
 
+TEST_F(DocumentWindow, PageThatIsOpenTwiceIsShownAsEachWindowHasIt)
+{
+    const QString path = Write(u"page.html"_s, "old");
+    const QString copy = folder.filePath(u"page_.html"_s);
+    frmDocument other{bars, path};
+    for (frmDocument *window : {&document, &other}) {
+        ASSERT_TRUE(window->OpenFile(path));
+        EXPECT_EQ(window->WriteBrowserCopy(), copy);
+    }
+    Type(other.Source(), u"x"_s);
+    other.WritePreview();
+    EXPECT_EQ(Read(copy), "xold");
+    document.WritePreview();
+    EXPECT_EQ(Read(copy), "old");
+}
+
+TEST_F(DocumentWindow, PageWithoutRoomForACopyIsShownAsItWasSaved)
+{
+    // With one more character the name is too long for the disk.
+    const QString path = Write(QString(250, u'x') + u".html"_s, "old");
+    ASSERT_TRUE(document.OpenFile(path));
+    EXPECT_EQ(document.WriteBrowserCopy(), path);
+    QFile::remove(path);
+    EXPECT_EQ(document.WriteBrowserCopy(), QString());
+}
+
 TEST_F(DocumentWindow, PathWithoutAPointHasNoPreviewCopy)
 {
     document.WritePreview();
