@@ -126,7 +126,8 @@ void frmDocument::SaveByItself()
         m_autoSave.stop();
         return;
     }
-    if (IsUntitled(Caption()) || Unread || Modyfied() != u"1" || m_autoSaveFailed)
+    // Who answered No keeps the file as it is while other pages are still asked for.
+    if (IsUntitled(Caption()) || Unread || Modyfied() != u"1" || m_autoSaveFailed || m_mayClose)
         return;
     if (HoldsDesignText() && !TakeDesignText(*this, m_design->IsDirty()))
         return;

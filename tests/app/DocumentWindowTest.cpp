@@ -287,11 +287,13 @@ TEST_F(DocumentWindow, AutoSave)
         const char *row;
         QString setting;
         bool untitled;
+        bool givenUp; // the author wants it closed without saving
         bool saved;
     };
-    const Case cases[] = {{"off", u"0"_s, false, false},
-                          {"on", u"1"_s, false, true},
-                          {"never an unsaved page", u"1"_s, true, false}};
+    const Case cases[] = {{"off", u"0"_s, false, false, false},
+                          {"on", u"1"_s, false, false, true},
+                          {"never an unsaved page", u"1"_s, true, false, false},
+                          {"while other pages are asked for", u"1"_s, false, true, false}};
     SaveSetting(u"Settings", u"TemporaryDirectory", folder.path());
     ChooseTempDir();
     auto *timer = document.findChild<QTimer *>(u"AutoSave"_s);
@@ -306,6 +308,8 @@ TEST_F(DocumentWindow, AutoSave)
         ASSERT_EQ(timer->interval(), 60000);
         ASSERT_TRUE(timer->isActive());
         SaveSetting(u"Auto", u"Save", row.setting);
+        boxes.answer = Answer::No;
+        ASSERT_TRUE(!row.givenUp || document.AgreeToClose());
         QTimerEvent tick(timer->timerId());
         QCoreApplication::sendEvent(timer, &tick);
         EXPECT_EQ(Read(path).startsWith('x'), row.saved);
