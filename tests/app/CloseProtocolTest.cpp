@@ -24,6 +24,7 @@ struct Close
     bool fails; // to write
     bool closes;
     QString savedTo = {};
+    bool unread = false; // the file is there, and the window does not show what is in it
 };
 
 class CloseProtocol : public testing::TestWithParam<Close>
@@ -43,6 +44,9 @@ TEST_P(CloseProtocol, AsksSavesAndCleansUp)
 
     MemoryDocument document;
     document.Caption = row.untitled ? UntitledCaption(1) : u"/x/page.html"_s;
+    document.Unread = row.unread;
+    if (row.unread)
+        document.Caption = copy; // any file that is there
     document.Modyfied = row.modified ? u"1"_s : u"0"_s;
     document.Banen = ClaimPreviewCopy(copy);
     ASSERT_TRUE(WritePreviewCopy(document.Banen(), "text"));
@@ -53,7 +57,8 @@ TEST_P(CloseProtocol, AsksSavesAndCleansUp)
     EXPECT_EQ(QFile::exists(copy), !row.closes) << "the preview copy goes with the document";
     EXPECT_EQ(boxes.asked,
               row.modified ? QStringList(u"Do you want save /y/active.html?"_s) : QStringList());
-    const bool asksForName = row.modified && row.untitled && row.answer == Answer::Yes;
+    const bool asksForName
+        = row.modified && (row.untitled || row.unread) && row.answer == Answer::Yes;
     EXPECT_EQ(boxes.dialogs, asksForName ? QStringList(u"Save"_s) : QStringList());
     EXPECT_EQ(document.source.files.keys(),
               row.savedTo.isEmpty() ? QStringList() : QStringList(row.savedTo));
@@ -71,6 +76,15 @@ INSTANTIATE_TEST_SUITE_P(
         Close{"NoUntitled", true, true, Answer::No, u"/x/new.html"_s, false, true},
         Close{"Yes", true, false, Answer::Yes, {}, false, true, u"/x/page.html"_s},
         Close{"YesUntitled", true, true, Answer::Yes, u"/x/n.html"_s, false, true, u"/x/n.html"_s},
+        Close{"YesUnread",
+              true,
+              false,
+              Answer::Yes,
+              u"/x/n.html"_s,
+              false,
+              true,
+              u"/x/n.html"_s,
+              true},
         Close{"YesUntitledWithoutName", true, true, Answer::Yes, {}, false, false},
         Close{"YesButSavingFails", true, false, Answer::Yes, {}, true, false},
         Close{"YesUntitledButSavingFails", true, true, Answer::Yes, u"/x/n.html"_s, true, false}),
