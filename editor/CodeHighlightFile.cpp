@@ -83,7 +83,10 @@ bool CodeHighlight::SaveFile(const QString &path)
             return false;
         bytes = EncodedFile(encoding, Unencodable::CharacterReference, nullptr);
     }
-    const QString error = WriteAuthorFile(path, bytes);
+    // Nothing stands for a page that its encoding cannot hold even with references.
+    const bool isLost = bytes.isEmpty() && TextLength() > 0;
+    const QString error = isLost ? u"The text does not fit the encoding of this page."_s
+                                 : WriteAuthorFile(path, bytes);
     if (error.isEmpty()) {
         m_encoding = encoding;
         ForgetPreviewCopy(path);
