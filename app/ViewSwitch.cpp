@@ -46,32 +46,42 @@ namespace {
         document.ArmRefresher(RefreshAtOnce);
     }
 
-    // False when the author stays out of the design view, or it could not be shown.
-    bool EnterDesign(DocumentModel &document)
+    QString LastSourceSideView()
+    {
+        return GetSetting(u"Settings", u"Mode") == u"HTML" ? u"HTML"_s : u"Split"_s;
+    }
+
+    // The view to show instead when the author stays out of the design view, or it could not be
+    // shown; empty when it is.
+    QString EnterDesign(DocumentModel &document)
     {
         if (document.rtfText().IsReadOnlyPage()) {
             MsgBox(ReadOnly, Buttons::Ok, Icon::Information);
-            return false;
+            return LastSourceSideView();
         }
         if (document.rtfText().Text().contains(u"<frame"_s, Qt::CaseInsensitive)
             && MsgBox(FrameWarning, Buttons::YesNo, Icon::Information) == Answer::No)
-            return false;
+            return u"Split"_s;
         document.WritePreview();
-        DesignView *design = document.Design();
-        if (!design || !document.LoadDesign()) {
+        if (!document.Design() || !document.LoadDesign()) {
             MsgBox(NoDesign, Buttons::Ok, Icon::Warning);
-            return false;
+            return LastSourceSideView();
         }
         document.Des = u"1"_s;
-        return true;
+        return {};
     }
 
-    // The source takes the text back; the design edit can be undone as a whole.
+    // The source takes the text back. The design edit is undone as a whole, and done again: its own
+    // history ends here.
     void LeaveDesign(DocumentModel &document, bool cleaned)
     {
-        document.rtfText().AddUndo();
+        SourceView &source = document.rtfText();
+        const QString before = source.Text();
+        source.AddUndo();
         if (!TakeDesignText(document, cleaned))
             MsgBox(NoAnswer, Buttons::Ok, Icon::Warning);
+        else if (source.Text() != before)
+            source.AddUndo();
         document.Des = u"0"_s;
         ShowPreviewCopy(document);
     }
@@ -80,15 +90,17 @@ namespace {
     void EnterPreview(DocumentModel &document, const MainWindowBars &bars)
     {
         const bool fromDesign = document.Des() == u"1";
-        if (!bars.IsLocalMode())
+        if (!bars.IsLocalMode()) {
             ShowServerPage(document,
                            bars,
                            fromDesign ? u"you have to write an address in the address field"_s
                                       : u"You have to write an address in the address field"_s);
-        else if (fromDesign)
+        } else if (fromDesign) {
             LeaveDesign(document, false);
-        else
+            document.DropDesignInput();
+        } else {
             ShowPreviewCopy(document);
+        }
     }
 
     void PrepareBars(DocumentModel &document, MainWindowBars &bars, const QString &status)
@@ -118,8 +130,9 @@ void RunViewSwitch(DocumentModel &document, MainWindowBars &bars)
     }
     if (status == u"Design") {
         // Assigned again while the design view is shown, it holds the newest text already.
-        if (document.Des() != u"1" && !EnterDesign(document)) {
-            document.Status = u"Split"_s;
+        const QString instead = document.Des() != u"1" ? EnterDesign(document) : QString();
+        if (!instead.isEmpty()) {
+            document.Status = instead;
             return;
         }
     } else if (status == u"Preview") {

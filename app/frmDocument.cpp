@@ -381,7 +381,7 @@ void frmDocument::closeEvent(QCloseEvent *event)
     }
     for (QTimer *timer : {&m_refresher, &m_copyWriter, &m_autoSave, &m_previewStart})
         timer->stop();
-    DropPreviewCopy(m_designInput);
+    DropDesignInput();
     DropPreviewCopy(Banen());
     event->accept();
 }

@@ -30,6 +30,7 @@ public:
     DesignView *Design() override;
     void WritePreview() override;
     bool LoadDesign() override;
+    void DropDesignInput() override;
     void ArmRefresher(int milliseconds) override;
     void RunLayout() override;
     void RemoveLists() override;

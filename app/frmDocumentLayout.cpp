@@ -217,11 +217,17 @@ bool frmDocument::LoadDesign()
 {
     if (!Design() || Banen().isEmpty())
         return false;
-    DropPreviewCopy(m_designInput);
+    DropDesignInput();
     m_designInput = ClaimPreviewCopy(Banen() + u'_');
     m_design->CharCode = GetSetting(u"Editor", u"Encoding", u"windows-1250"_s).toLatin1();
     return WritePreviewCopy(m_designInput, m_source->FileBytes())
         && m_design->LoadDocument(m_designInput);
+}
+
+void frmDocument::DropDesignInput()
+{
+    DropPreviewCopy(m_designInput);
+    m_designInput.clear();
 }
 
 void frmDocument::NeedPreview()

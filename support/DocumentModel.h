@@ -60,6 +60,8 @@ public:
     /// Writes the source text to the design view's input and shows it there; false when that
     /// failed.
     virtual bool LoadDesign() = 0;
+    /// Deletes the file that the design view was loaded from.
+    virtual void DropDesignInput() = 0;
     /// Shows the preview copy after `milliseconds`, unless armed anew before.
     virtual void ArmRefresher(int milliseconds) = 0;
     /// Places the views for `Status` and `SplitHV`.

@@ -108,7 +108,9 @@ TEST_F(DocumentWindow, ViewBarSwitches)
         button->trigger();
         // There is no web engine here, and without one no design view: the program says so and goes
         // back.
-        EXPECT_EQ(document.Status(), button->text() == u"Design" ? u"Split"_s : button->text());
+        EXPECT_EQ(document.Status(), button->text() == u"Design" ? u"HTML"_s : button->text());
+        const QWidget *focused = document.focusWidget();
+        EXPECT_TRUE(focused && focused->isVisible()) << "keys go to what can be seen";
     }
     EXPECT_EQ(captions, QStringList({u"Split"_s, u"HTML"_s, u"Preview"_s, u"Design"_s}));
 }

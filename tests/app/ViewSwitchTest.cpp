@@ -130,6 +130,7 @@ TEST_P(DesignSwitch, MovesTheText)
     document.designLoads = row.source != u"unloadable";
     document.Status.OnAssign([&](const QString &) { RunViewSwitch(document, document.bars); });
 
+    document.Status = u"HTML"_s;
     document.Status = u"Design"_s;
     if (!row.to.isEmpty()) {
         document.design.html = row.designed;
@@ -139,6 +140,13 @@ TEST_P(DesignSwitch, MovesTheText)
     EXPECT_EQ(document.Status(), row.status);
     EXPECT_EQ(document.Des(), row.des);
     EXPECT_EQ(boxes.asked.size(), row.asked);
+    EXPECT_EQ(document.log.count(u"drop"_s), row.to == u"Preview" ? 1 : 0);
+    if (row.text != row.source) {
+        document.source.Undo();
+        EXPECT_EQ(document.source.Text(), row.source) << "undone as a whole";
+        document.source.Redo();
+        EXPECT_EQ(document.source.Text(), row.text);
+    }
 }
 
 const QString Marks
@@ -158,8 +166,8 @@ INSTANTIATE_TEST_SUITE_P(
         DesignCase{"NoAnswer", u"<p>"_s, u"HTML"_s, {}, u"<p>"_s, u"HTML"_s, u"0"_s, 1},
         DesignCase{"Frames", u"<FrameSet>"_s, {}, {}, u"<FrameSet>"_s, u"Split"_s, {}, 1},
         DesignCase{"FloatingFrame", u"<iframe>"_s, {}, {}, u"<iframe>"_s, u"Design"_s, u"1"_s},
-        DesignCase{"ReadOnly", u"readonly"_s, {}, {}, u"readonly"_s, u"Split"_s, {}, 1},
-        DesignCase{"NotLoaded", u"unloadable"_s, {}, {}, u"unloadable"_s, u"Split"_s, {}, 1}),
+        DesignCase{"ReadOnly", u"readonly"_s, {}, {}, u"readonly"_s, u"HTML"_s, {}, 1},
+        DesignCase{"NotLoaded", u"unloadable"_s, {}, {}, u"unloadable"_s, u"HTML"_s, {}, 1}),
     [](const auto &info) { return std::string(info.param.row); });
 
 TEST(ServerAddress, IsHostAndFileName)

@@ -225,6 +225,7 @@ public:
         design.html = source.Text();
         return designLoads;
     }
+    void DropDesignInput() override { log.append(QStringLiteral("drop")); }
     void ArmRefresher(int milliseconds) override
     {
         log.append(QStringLiteral("arm %1").arg(milliseconds));
