@@ -5,6 +5,7 @@
 #include "app/TakeDesign.h"
 #include "app/ViewSwitch.h"
 #include "editor/CodeHighlight.h"
+#include "editor/VirtualKeys.h"
 #include "support/BrowserView.h"
 #include "support/DesignView.h"
 #include "support/MessageBoxes.h"
@@ -107,6 +108,13 @@ void frmDocument::ConnectFields()
     SplitHV.OnAssign([this](const QString &) { RunLayout(); });
 
     connect(m_source, &CodeHighlight::Change, this, &frmDocument::OnSourceChange);
+    // Before the source counts the key as typing.
+    connect(m_source, &CodeHighlight::KeyDown, this, [this](int &keyCode, int &shift) {
+        if (keyCode != 'W' || shift != ShiftBit::Control)
+            return;
+        keyCode = 0;
+        CloseWindow();
+    });
     connect(m_source, &CodeHighlight::SelChange, m_caretStatus.get(), [this] {
         m_caretStatus->Follow(Folder());
     });

@@ -57,8 +57,9 @@ public:
     /// What the main window must know again when this window becomes active or gets another name.
     void Form_Activate();
     int ViewBarHeight() const;
-    /// Shows the design view, and keeps the source's caret for the way back.
-    void EnterDesignView();
+    /// Shows a view because the author asks for it: gives it the focus, and keeps the source's
+    /// caret for the way back from the design view.
+    void ShowView(const QString &status);
     /// Asks what closing must ask, and saves where the author wants it. False when the page is to
     /// stay; after true, closing asks nothing, until `StayOpen`.
     bool AgreeToClose();
@@ -89,6 +90,8 @@ private:
     void BuildSplitters();
     void BuildTyping();
     void ConnectFields();
+    void FocusView();
+    void CloseWindow();
     void PlaceSplit();
     void DragSplit(int position, bool finished);
     int SplitPosition() const;

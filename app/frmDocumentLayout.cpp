@@ -56,16 +56,7 @@ void frmDocument::BuildViewBar()
         action->setToolTip(QString::fromUtf16(button.tip));
         action->setCheckable(true);
         group->addAction(action);
-        connect(action, &QAction::triggered, this, [this, status] {
-            if (status == u"Design") {
-                EnterDesignView();
-                return;
-            }
-            Status = status;
-            if (status != u"HTML")
-                RefreshPreview(ButtonRefresh);
-            m_source->SetFocus();
-        });
+        connect(action, &QAction::triggered, this, [this, status] { ShowView(status); });
         Status.OnAssign(
             [action, status](const QString &now) { action->setChecked(now == status); });
     }
@@ -101,8 +92,8 @@ void frmDocument::RunLayout()
     if (previewShown)
         NeedPreview();
     QWidget *preview = m_browser ? m_browser->Widget() : m_previewPlace;
-
     const bool design = status == u"Design" && m_design;
+    const QWidget *focused = window()->focusWidget();
 
     m_viewBar->setGeometry(0, area.height(), width(), height() - area.height());
     if (split)
@@ -119,6 +110,9 @@ void frmDocument::RunLayout()
     m_previewPlace->setVisible(previewShown && !m_browser);
     if (m_browser)
         preview->setVisible(previewShown);
+    // Keys never go to a view that cannot be seen.
+    if (focused && isAncestorOf(focused) && !focused->isVisibleTo(this))
+        FocusView();
 }
 
 // The preview stands above the source, or to the right of it.
@@ -177,19 +171,39 @@ void frmDocument::showEvent(QShowEvent *event)
 
 void frmDocument::keyPressEvent(QKeyEvent *event)
 {
-    // The host asks this window in turn whether it may close.
-    if (event->key() == Qt::Key_W && event->modifiers() == Qt::ControlModifier && parentWidget())
-        parentWidget()->close();
+    if (event->key() == Qt::Key_W && event->modifiers() == Qt::ControlModifier)
+        CloseWindow();
     else
         QWidget::keyPressEvent(event);
 }
 
-void frmDocument::EnterDesignView()
+// The host asks this window in turn whether it may close; later, for a view is in its key event.
+void frmDocument::CloseWindow()
 {
-    Sted = m_source->SelStart();
-    Status = u"Design"_s;
-    if (m_design && Status() == u"Design")
+    if (parentWidget())
+        QMetaObject::invokeMethod(parentWidget(), &QWidget::close, Qt::QueuedConnection);
+}
+
+void frmDocument::ShowView(const QString &status)
+{
+    if (status == u"Design")
+        Sted = m_source->SelStart();
+    Status = status;
+    RefreshPreview(ButtonRefresh);
+    FocusView();
+}
+
+// In the split view keys belong to the source.
+void frmDocument::FocusView()
+{
+    if (Status() == u"Design" && m_design)
         m_design->SetFocus();
+    else if (Status() != u"Preview")
+        m_source->SetFocus();
+    else if (m_browser)
+        m_browser->Widget()->setFocus();
+    else
+        m_previewPlace->setFocus();
 }
 
 DesignView *frmDocument::Design()

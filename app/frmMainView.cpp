@@ -1,5 +1,6 @@
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
+#include "support/BrowserView.h"
 #include "support/SettingsStore.h"
 
 #include <QAction>
@@ -51,19 +52,21 @@ void frmMain::AddViewCommands(MainMenu::Commands &commands)
     };
     const std::pair<QString, QString> views[] = {{u"mnuSplitMode"_s, u"Split"_s},
                                                  {u"mnuHtmlMode"_s, u"HTML"_s},
-                                                 {u"mnuPreviewMode"_s, u"Preview"_s}};
+                                                 {u"mnuPreviewMode"_s, u"Preview"_s},
+                                                 {u"mnuDesignMode"_s, u"Design"_s}};
     for (const auto &[name, status] : views) {
         commands[name] = [this, status = status] {
-            ForActive([&](frmDocument &document) {
-                document.Status = status;
-                document.RefreshPreview(0);
-            });
+            ForActive([&](frmDocument &document) { document.ShowView(status); });
         };
     }
-    commands[u"mnuDesignMode"_s]
-        = [this] { ForActive([](frmDocument &document) { document.EnterDesignView(); }); };
     commands[u"mnuViewRefresh"_s] = [this] {
-        ForActive([](frmDocument &document) { document.RefreshPreview(ForcedRefresh); });
+        ForActive([this](frmDocument &document) {
+            const bool showsServer = document.Status() == u"Preview" && !IsLocalMode();
+            if (BrowserView *browser = document.WebBrowser1(); browser && showsServer)
+                browser->Refresh();
+            else
+                document.RefreshPreview(ForcedRefresh);
+        });
     };
     commands[u"mnuSplitH"_s]
         = [this] { ForActive([](frmDocument &document) { document.SplitHV = u"0"_s; }); };
