@@ -50,6 +50,7 @@ PreviewPage::PreviewPage(QWebEngineProfile *profile, QObject *parent)
 {
     setUrlRequestInterceptor(&m_guard);
     RestrictPage(*this);
+    settings()->setAttribute(QWebEngineSettings::ErrorPageEnabled, false);
     settings()->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
     settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     scripts().insert(

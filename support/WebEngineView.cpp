@@ -92,6 +92,8 @@ void WebEngineView::Refresh()
 {
     if (!m_wanted && m_loading)
         m_wanted = m_target;
+    else if (!m_wanted && m_shown == m_target.url)
+        m_wanted = TargetOf(m_target.address); // what failed is tried again
     else if (!m_wanted && !m_shown.isEmpty())
         m_wanted = {ShownAddress(), m_shown};
     m_restarts = 0;
@@ -254,10 +256,23 @@ void WebEngineView::LoadingChanged(const QWebEngineLoadingInfo &info)
     m_loading = false;
     m_patience.stop();
     m_page->BeginAnywhere();
+    // A page that a server sends with an error status is a page all the same.
+    const bool isShown = status == QWebEngineLoadingInfo::LoadSucceededStatus
+        || info.errorDomain() == QWebEngineLoadingInfo::HttpStatusCodeDomain;
     if (m_wanted)
         StartWanted();
-    else if (status == QWebEngineLoadingInfo::LoadSucceededStatus && NavigateComplete)
+    else if (isShown && NavigateComplete)
         NavigateComplete(ShownAddress());
+    else if (status == QWebEngineLoadingInfo::LoadFailedStatus && !isShown)
+        ShowFailure(info);
+}
+
+// The engine's own page for it would be blank: scripts are off there.
+void WebEngineView::ShowFailure(const QWebEngineLoadingInfo &info)
+{
+    const QString address = info.url() == m_target.url ? m_target.address : info.url().toString();
+    const QString text = u"%1 cannot be shown: %2"_s.arg(address, info.errorString());
+    Load(TextTarget(address, text));
 }
 
 // A script of the page may run without end; its renderer then neither loads nor answers, and is

@@ -55,6 +55,7 @@ private:
     void StartWanted();
     void Load(const Target &target);
     void LoadingChanged(const QWebEngineLoadingInfo &info);
+    void ShowFailure(const QWebEngineLoadingInfo &info);
     void PatienceEnded();
     void RendererDied();
     QPointF PlaceToKeep() const;

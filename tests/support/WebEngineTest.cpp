@@ -411,20 +411,46 @@ TEST_F(WebEngine, PageThatNeverAnswersIsReplaced)
     EXPECT_TRUE(WaitFor([&] { return kill(stuck, 0) != 0; })) << "the old renderer still runs";
 }
 
+// Answers every request with the same page; the first lines of the requests are kept in `asked`.
+void Serve(QTcpServer &server, const QByteArray &status, const QByteArray &page, QString &asked)
+{
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [=, &server, &asked] {
+        QTcpSocket *socket = server.nextPendingConnection();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [=, &asked] {
+            asked += QString::fromLatin1(socket->readLine());
+            socket->write("HTTP/1.0 " + status + "\r\nContent-Type: text/html\r\n\r\n" + page);
+            socket->disconnectFromHost();
+        });
+    });
+}
+
+TEST_F(WebEngine, FailureIsToldAndTriedAgain)
+{
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    const quint16 port = server.serverPort();
+    server.close();
+    const QString address = u"http://127.0.0.1:%1/page"_s.arg(port);
+    Show(address);
+    EXPECT_THAT(m_completed, ElementsAre(address));
+    EXPECT_TRUE(Text().startsWith(address + u" cannot be shown: "_s)) << Text().toStdString();
+
+    QString asked;
+    Serve(server, "404 Not Found", "<p>the server's own words", asked);
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost, port));
+    m_completed.clear();
+    m_view->Refresh();
+    ASSERT_TRUE(WaitFor([this] { return !m_completed.isEmpty(); }));
+    EXPECT_EQ(Text(), u"the server's own words"_s);
+}
+
 TEST_F(WebEngine, WebPageRunsNoScriptsAndNothingIsFetchedOffline)
 {
     QTcpServer server;
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
     QString asked;
-    QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
-        QTcpSocket *socket = server.nextPendingConnection();
-        QObject::connect(socket, &QTcpSocket::readyRead, socket, [&asked, socket] {
-            asked += QString::fromLatin1(socket->readLine());
-            socket->write("HTTP/1.0 200 OK\r\nContent-Type: text/html\r\n\r\n"
-                          "<p>plain<script>document.body.textContent = 'scripted'</script>");
-            socket->disconnectFromHost();
-        });
-    });
+    Serve(
+        server, "200 OK", "<p>plain<script>document.body.textContent = 'scripted'</script>", asked);
     const QString host = u"127.0.0.1:%1"_s.arg(server.serverPort());
     Show(host);
     EXPECT_THAT(m_completed, ElementsAre(u"http://%1/"_s.arg(host)));
