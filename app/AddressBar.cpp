@@ -41,8 +41,11 @@ AddressBar::AddressBar(QWidget *parent)
     addSeparator();
 
     auto *modes = new QActionGroup(this);
-    m_local = addAction(SkinIcon(u"local"), u"Local"_s);
-    QAction *server = addAction(SkinIcon(u"server"), u"Server"_s);
+    auto *modeBar = new QToolBar(this);
+    modeBar->setObjectName(u"Toolbar3"_s);
+    addWidget(modeBar);
+    m_local = modeBar->addAction(SkinIcon(u"local"), u"Local"_s);
+    QAction *server = modeBar->addAction(SkinIcon(u"server"), u"Server"_s);
     m_local->setToolTip(u"Local: preview the page itself"_s);
     server->setToolTip(u"Server: preview what a server makes of the address"_s);
     for (QAction *mode : {m_local, server}) {

@@ -11,6 +11,17 @@ using namespace Qt::StringLiterals;
 
 namespace brenix {
 
+namespace {
+
+    // A page may name a font that is not installed here, in any case of its letters.
+    void ShowValue(QComboBox &box, const QString &value)
+    {
+        box.setPlaceholderText(value);
+        box.setCurrentIndex(box.findText(value, Qt::MatchFixedString));
+    }
+
+} // namespace
+
 DesignBar::DesignBar(QWidget *parent)
     : QToolBar(u"Design"_s, parent)
     , m_font(new QComboBox(this))
@@ -58,9 +69,9 @@ void DesignBar::Follow()
 {
     if (!m_view)
         return;
-    m_font->setCurrentText(m_view->ExecCommand(Decmd::GetFontName));
-    m_size->setCurrentText(m_view->ExecCommand(Decmd::GetFontSize));
-    m_format->setCurrentText(m_view->ExecCommand(Decmd::GetBlockFmt));
+    ShowValue(*m_font, m_view->ExecCommand(Decmd::GetFontName));
+    ShowValue(*m_size, m_view->ExecCommand(Decmd::GetFontSize));
+    ShowValue(*m_format, m_view->ExecCommand(Decmd::GetBlockFmt));
 }
 
 void DesignBar::FillSizes()

@@ -31,7 +31,6 @@ namespace {
         {u"outdent", u"Outdent", Decmd::Outdent},
         {u"indent", u"Indent", Decmd::Indent},
         {u"", u"", 0},
-        {u"Fontremove", u"Remove format", Decmd::RemoveFormat},
     };
 
 } // namespace
@@ -46,30 +45,42 @@ DesignTools::DesignTools(QWidget *parent)
             addSeparator();
             continue;
         }
-        QAction *action = addAction(SkinIcon(button.icon), QString::fromUtf16(button.tip));
-        const int command = button.command;
-        action->setCheckable(command != Decmd::Outdent && command != Decmd::Indent
-                             && command != Decmd::RemoveFormat);
-        m_commands.insert(command, action);
-        connect(action, &QAction::triggered, this, [this, command] {
-            if (m_view)
-                m_view->ExecCommand(command);
-        });
+        AddCommand(*this, button.icon, button.tip, button.command);
     }
-    connect(addAction(SkinIcon(u"Color"), u"Text color"_s),
-            &QAction::triggered,
-            this,
-            &DesignTools::ChooseTextColour);
-    addSeparator();
     QAction *table = addAction(SkinIcon(u"Table"), u"Insert table"_s);
     connect(table, &QAction::triggered, this, [this, table] {
         const QWidget *button = widgetForAction(table);
         emit TableClicked(button->mapToGlobal(button->rect().bottomLeft()));
     });
+    addSeparator();
     m_borders = AddView(
         u"Tableborder", u"Show borders"_s, [this](bool on) { m_view->SetShowBorders(on); });
     m_details
         = AddView(u"Detail", u"Show details"_s, [this](bool on) { m_view->SetShowDetails(on); });
+    addSeparator();
+    AddTextFormat();
+}
+
+void DesignTools::AddCommand(QToolBar &bar, const char16_t *icon, const char16_t *tip, int command)
+{
+    QAction *action = bar.addAction(SkinIcon(icon), QString::fromUtf16(tip));
+    action->setCheckable(command != Decmd::Outdent && command != Decmd::Indent
+                         && command != Decmd::RemoveFormat);
+    m_commands.insert(command, action);
+    connect(action, &QAction::triggered, this, [this, command] {
+        if (m_view)
+            m_view->ExecCommand(command);
+    });
+}
+
+void DesignTools::AddTextFormat()
+{
+    auto *bar = new QToolBar(this);
+    bar->setObjectName(u"Toolbar2"_s);
+    addWidget(bar);
+    AddCommand(*bar, u"Fontremove", u"Remove format", Decmd::RemoveFormat);
+    const QAction *colour = bar->addAction(SkinIcon(u"Color"), u"Text color"_s);
+    connect(colour, &QAction::triggered, this, &DesignTools::ChooseTextColour);
 }
 
 QAction *DesignTools::AddView(const char16_t *icon,

@@ -28,6 +28,8 @@ signals:
     void TableClicked(const QPoint &place);
 
 private:
+    void AddCommand(QToolBar &bar, const char16_t *icon, const char16_t *tip, int command);
+    void AddTextFormat();
     QAction *AddView(const char16_t *icon,
                      const QString &tip,
                      const std::function<void(bool)> &show);

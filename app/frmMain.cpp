@@ -276,6 +276,8 @@ void frmMain::ShowBarsFor(const QString &status)
     if (m_addressBar)
         m_addressBar->setVisible(sourceSide && toolbars);
     ShowDesignBars(status == u"Design" && toolbars);
+    BreakToolbars();
+    FollowDesign();
 }
 
 // Made when a page is first shown in the design view: reading all fonts takes time.

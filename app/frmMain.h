@@ -76,6 +76,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     // building
@@ -138,6 +139,7 @@ private:
     void ShowCaret();
     void EnableSelectionCommands();
     void ShowDesignBars(bool shown);
+    void BreakToolbars();
     void FollowDesign();
     void ShowToolbox(bool shown);
     void ShowPane(QStringView command);

@@ -133,6 +133,29 @@ void frmMain::ArrangeIcons()
     }
 }
 
+// A toolbar that would be cut off begins a row of its own.
+void frmMain::BreakToolbars()
+{
+    int used = 0;
+    for (QToolBar *bar : findChildren<QToolBar *>(Qt::FindDirectChildrenOnly)) {
+        if (bar->isHidden())
+            continue;
+        const int needed = bar->sizeHint().width();
+        const bool breaks = used > 0 && used + needed > width();
+        if (breaks && !toolBarBreak(bar))
+            insertToolBarBreak(bar);
+        else if (!breaks && toolBarBreak(bar))
+            removeToolBarBreak(bar);
+        used = breaks ? needed : used + needed;
+    }
+}
+
+void frmMain::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    BreakToolbars();
+}
+
 void frmMain::ResizeToScreen(const QString &screen)
 {
     QMdiSubWindow *window = m_area->currentSubWindow();

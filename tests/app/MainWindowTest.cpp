@@ -386,7 +386,7 @@ TEST_F(MainWindow, AddressBelongsToTheDocument)
     OpenPages({u"a.html"_s, u"b.html"_s});
     auto &address = Find<QComboBox>(u"Combo2"_s);
     EXPECT_FALSE(address.isEnabled()) << "local at first";
-    for (QAction *action : Find<QToolBar>(u"Picture1"_s).actions()) {
+    for (QAction *action : Find<QToolBar>(u"Toolbar3"_s).actions()) {
         if (action->text() == u"Server")
             action->trigger();
     }
