@@ -76,7 +76,6 @@ signals:
     void PreviewStatus(const QString &text);
     /// The selection of the design view, or what it shows, has changed.
     void DesignChanged();
-    void ActiveElement(const QString &tagName);
     void ContextMenu(const QPoint &globalPosition);
 
 protected:

@@ -215,7 +215,6 @@ DesignView *frmDocument::Design()
     m_design->Widget()->setObjectName(u"Design"_s);
     m_design->Widget()->setAccessibleName(u"Design"_s);
     m_design->DisplayChanged = [this] { emit DesignChanged(); };
-    m_design->ActiveElement = [this](const QString &tagName) { emit ActiveElement(tagName); };
     m_design->LinkHovered = [this](const QString &address) {
         m_design->Widget()->setToolTip(address.isEmpty() ? QString() : u"Link to : "_s + address);
     };

@@ -304,13 +304,16 @@ void frmMain::ShowDesignBars(bool shown)
 void frmMain::FollowDesign()
 {
     frmDocument *document = ActiveForm();
-    if (!document || document->Status() != u"Design")
+    const DesignView *view
+        = document && document->Status() == u"Design" ? document->Design() : nullptr;
+    if (!view)
         return;
     if (m_designBar) {
         m_designTools->Follow();
         m_designBar->Follow();
     }
-    m_titlePanel->setText(document->Design()->DocumentTitle());
+    m_titlePanel->setText(view->DocumentTitle());
+    m_elementPanel->setText(view->ActiveElement());
 }
 
 void frmMain::ShowModified(const QString &text)

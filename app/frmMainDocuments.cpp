@@ -60,7 +60,6 @@ frmDocument *frmMain::LoadNewDoc()
         emit PreviewPainted();
     });
     connect(document, &frmDocument::PreviewStatus, m_previewText, &QLabel::setText);
-    connect(document, &frmDocument::ActiveElement, m_elementPanel, &QLabel::setText);
     connect(document, &frmDocument::DesignChanged, this, &frmMain::FollowDesign);
     connect(document, &frmDocument::ContextMenu, this, [this](const QPoint &place) {
         m_menu->MenuOf(u"mnuEdit"_s)->popup(place);

@@ -22,7 +22,6 @@ using namespace std::chrono_literals;
 namespace {
 
     constexpr QStringView messagePrefix = u"brenix-design ";
-    constexpr auto answerLimit = 2s;
 
     // A page from a scheme of the program's comes in small pieces, and laying out each of them
     // makes a page of 4 MB take 9 s instead of 0.4. The editing script takes the sheet away.
@@ -62,7 +61,7 @@ void DesignPage::Open(const QUrl &url)
     load(url);
 }
 
-std::optional<QVariant> DesignPage::Ask(const QString &expression)
+std::optional<QVariant> DesignPage::Ask(const QString &expression, std::chrono::milliseconds limit)
 {
     // The answer may come when this call is long over.
     const auto answer = std::make_shared<std::optional<QVariant>>();
@@ -75,7 +74,7 @@ std::optional<QVariant> DesignPage::Ask(const QString &expression)
                 waiting->quit();
         });
     if (!*answer)
-        Wait(loop, answerLimit);
+        Wait(loop, limit);
     return *answer;
 }
 

@@ -22,10 +22,11 @@ public:
     /// Goes to this address; the page itself goes nowhere else.
     void Open(const QUrl &url);
 
-    /// What an expression of the editing script gives; nothing when that takes longer than two
-    /// seconds or the page ends meanwhile. Runs the events of the program but the user's input, so
+    /// What an expression of the editing script gives; nothing when that takes longer than the
+    /// limit or the page ends meanwhile. Runs the events of the program but the user's input, so
     /// the caller may be gone afterwards.
-    std::optional<QVariant> Ask(const QString &expression);
+    std::optional<QVariant> Ask(const QString &expression,
+                                std::chrono::milliseconds limit = std::chrono::seconds(2));
     /// Runs the loop until it is left, the renderer dies, the page goes or the time is over.
     void Wait(QEventLoop &loop, std::chrono::milliseconds limit);
     void Tell(const QString &expression);

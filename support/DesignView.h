@@ -69,15 +69,18 @@ public:
     /// when that failed.
     virtual bool SaveDocument(const QString &path) = 0;
     /// The page, line ends as CR LF; nothing when none is shown or the page does not answer in
-    /// time. As long as it has not been changed, or all changes are undone, this is the text that
-    /// was loaded; after a change the root element is as the web engine writes it, and what stands
-    /// outside of it is still the author's.
+    /// time, unless it has been edited: then as it was when last heard of. As long as it has not
+    /// been changed, or all changes are undone, this is the text that was loaded; after a change
+    /// the root element is as the web engine writes it, and what stands outside of it is still the
+    /// author's.
     virtual std::optional<QString> DocumentHTML() = 0;
     /// Whether the author has changed the page since it was loaded.
     virtual bool IsDirty() = 0;
     /// Draws the page again. Reads nothing from the disk.
     virtual void Refresh() = 0;
-    virtual QString DocumentTitle() = 0;
+    virtual QString DocumentTitle() const = 0;
+    /// The tag name of the element that holds the caret, "TD".
+    virtual QString ActiveElement() const = 0;
     /// Replaces the selection by markup, unchanged.
     virtual void PasteHTML(const QString &markup) = 0;
 
@@ -101,8 +104,6 @@ public:
     std::function<void()> DisplayChanged;
     /// The address of the link under the mouse, empty when there is none.
     std::function<void(const QString &address)> LinkHovered;
-    /// The tag name of the element that holds the caret.
-    std::function<void(const QString &tagName)> ActiveElement;
     /// A text key was pressed or the page was changed in another way.
     std::function<void()> Edited;
 };

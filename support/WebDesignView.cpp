@@ -27,6 +27,9 @@ using namespace std::chrono_literals;
 namespace {
 
     constexpr auto loadLimit = 10s;
+    // The author's work hangs on this answer, and a busy machine may be slow to write out a large
+    // page.
+    constexpr auto textLimit = 10s;
     constexpr int restartLimit = 2;
     const QString ownFormat = u"application/x-brenix-markup"_s;
 
@@ -115,10 +118,11 @@ std::optional<QString> WebDesignView::DocumentHTML()
     if (m_shownHost.isEmpty())
         return {};
     const QPointer<WebDesignView> self(this);
-    const std::optional<QVariant> answer = m_page->Ask(u"brenix.page()"_s);
-    if (!self || !answer || !answer->toMap().contains(u"html"_s))
+    const std::optional<QVariant> answer = m_page->Ask(u"brenix.page()"_s, textLimit);
+    if (!self)
         return {};
-    return TextOfPage(answer->toMap());
+    const bool isAnswered = answer && answer->toMap().contains(u"html"_s);
+    return isAnswered ? TextOfPage(answer->toMap()) : m_lastText;
 }
 
 QString WebDesignView::TextOfPage(const QVariantMap &page) const
@@ -145,9 +149,14 @@ void WebDesignView::Refresh()
     update();
 }
 
-QString WebDesignView::DocumentTitle()
+QString WebDesignView::DocumentTitle() const
 {
     return m_text.Restore(m_state[u"title"_s].toString());
+}
+
+QString WebDesignView::ActiveElement() const
+{
+    return m_state[u"tag"_s].toString();
 }
 
 void WebDesignView::PasteHTML(const QString &markup)
@@ -304,14 +313,9 @@ void WebDesignView::TakeState(const QVariantMap &state)
 void WebDesignView::Announce()
 {
     const QPointer<WebDesignView> self(this);
-    const QString tag = m_state[u"tag"_s].toString();
     const bool isEdited = std::exchange(m_isEdited, false);
     if (isEdited && Edited)
         Edited();
-    if (self && tag != m_announcedTag && ActiveElement) {
-        m_announcedTag = tag;
-        ActiveElement(tag);
-    }
     if (self && DisplayChanged)
         DisplayChanged();
 }

@@ -30,7 +30,8 @@ public:
     std::optional<QString> DocumentHTML() override;
     bool IsDirty() override;
     void Refresh() override;
-    QString DocumentTitle() override;
+    QString DocumentTitle() const override;
+    QString ActiveElement() const override;
     void PasteHTML(const QString &markup) override;
     QString ExecCommand(int command, const QString &value) override;
     int QueryStatus(int command) override;
@@ -68,7 +69,6 @@ private:
     QVariantMap m_state;
     // the page as last heard of, for the case that its renderer dies
     std::optional<QString> m_lastText;
-    QString m_announcedTag;
     QTimer m_announce;
     QTimer m_keep;
     QString m_openedHost;

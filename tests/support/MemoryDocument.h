@@ -163,7 +163,8 @@ public:
     std::optional<QString> DocumentHTML() override { return html; }
     bool IsDirty() override { return dirty; }
     void Refresh() override { }
-    QString DocumentTitle() override { return {}; }
+    QString DocumentTitle() const override { return {}; }
+    QString ActiveElement() const override { return {}; }
     void PasteHTML(const QString &markup) override { html = markup; }
     QString ExecCommand(int, const QString &) override { return {}; }
     int QueryStatus(int) override { return brenix::Decmdf::Enabled; }

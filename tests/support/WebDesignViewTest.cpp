@@ -46,7 +46,6 @@ protected:
         ASSERT_TRUE(m_engine);
         m_layout.addWidget(m_engine);
         m_design->Edited = [this] { ++m_edits; };
-        m_design->ActiveElement = [this](const QString &tag) { m_tags.append(tag); };
         m_design->LinkHovered = [this](const QString &address) { m_links.append(address); };
     }
 
@@ -64,6 +63,15 @@ protected:
     bool LoadBody(const QString &body)
     {
         return Load(u"<html><head></head><body>%1</body></html>"_s.arg(body));
+    }
+    /// Edits the page and waits until the view has heard what it is now.
+    void EditAndKeep()
+    {
+        Select(u"a"_s);
+        m_design->PasteHTML(u"<% kept %>"_s);
+        const auto isKept = [&] { return Run(u"brenix.isKept === true"_s).toBool(); };
+        Run(u"{ const page = brenix.page; brenix.page = () => { brenix.isKept = true; return page(); }; }"_s);
+        ASSERT_TRUE(WaitFor(isKept));
     }
     QString Text() { return m_design->DocumentHTML().value_or(u"no answer"_s); }
     QString Body()
@@ -121,7 +129,6 @@ protected:
     QPointer<QWebEngineView> m_engine;
     DesignView *m_design = nullptr;
     int m_edits = 0;
-    QStringList m_tags;
     QStringList m_links;
 };
 
@@ -341,7 +348,7 @@ TEST_F(WebDesign, StatusFollowsTheSelection)
     for (const Case &row : cases) {
         displays = 0;
         Select(row.text);
-        ASSERT_TRUE(WaitFor([&] { return displays > 0 && m_tags.endsWith(row.tag); }))
+        ASSERT_TRUE(WaitFor([&] { return displays > 0 && m_design->ActiveElement() == row.tag; }))
             << row.tag.toStdString();
         EXPECT_EQ(m_design->ExecCommand(Decmd::GetBlockFmt), row.block);
         EXPECT_EQ(m_design->QueryStatus(Decmd::Bold), row.bold) << row.tag.toStdString();
@@ -497,7 +504,7 @@ TEST_F(WebDesign, LinksAreNamedButNotFollowed)
     EXPECT_EQ(m_links.value(0), u"file://%1/other.html#x"_s.arg(m_folder.path()));
     SendMouse(QEvent::MouseButtonPress, {40, 30});
     SendMouse(QEvent::MouseButtonRelease, {40, 30});
-    EXPECT_TRUE(WaitFor([&] { return m_tags.contains(u"A"_s); }));
+    EXPECT_TRUE(WaitFor([&] { return m_design->ActiveElement() == u"A"; }));
     SendMouse(QEvent::MouseMove, {300, 300});
     EXPECT_TRUE(WaitFor([&] { return m_links.size() == 2; }));
     EXPECT_EQ(m_links.last(), QString());
@@ -554,12 +561,7 @@ TEST_F(WebDesign, ShortcutsOfTheProgramAreReached)
 TEST_F(WebDesign, DeadRendererLosesNothing)
 {
     ASSERT_TRUE(LoadBody(u"<p>a</p>"_s));
-    Select(u"a"_s);
-    m_design->PasteHTML(u"<% kept %>"_s);
-    // the text is kept a moment after the edit
-    const auto isKept = [&] { return Run(u"brenix.isKept === true"_s).toBool(); };
-    Run(u"{ const page = brenix.page; brenix.page = () => { brenix.isKept = true; return page(); }; }"_s);
-    ASSERT_TRUE(WaitFor(isKept));
+    EditAndKeep();
     const auto pid = static_cast<pid_t>(m_engine->page()->renderProcessPid());
     ASSERT_EQ(kill(pid, SIGKILL), 0);
     ASSERT_TRUE(WaitFor([&] { return Body() == u"<p><% kept %></p>"_s; }));
@@ -588,6 +590,14 @@ TEST_F(SilentPage, IsWaitedForInVainButNotForEver)
     EXPECT_EQ(m_design->ExecCommand(Decmd::Bold), QString());
     kill(m_pid, SIGCONT);
     EXPECT_TRUE(WaitFor([&] { return m_design->DocumentHTML().has_value(); }));
+}
+
+TEST_F(SilentPage, EditsAreNotLostWithIt)
+{
+    kill(m_pid, SIGCONT);
+    EditAndKeep();
+    kill(m_pid, SIGSTOP);
+    EXPECT_THAT(Text().toStdString(), HasSubstr("<p><% kept %></p>"));
 }
 
 TEST_F(SilentPage, ViewMayGoMeanwhile)
