@@ -1,6 +1,7 @@
 #include "app/TakeDesign.h"
 
 #include "support/DesignView.h"
+#include "support/MessageBoxes.h"
 #include "support/SourceView.h"
 #include "tags/SelectTag.h"
 
@@ -39,6 +40,27 @@ bool TakeDesignText(DocumentModel &document, bool cleaned)
     if (cleaned)
         RemoveGeneratorMarks(document.rtfText());
     return true;
+}
+
+void WithNewestText(DocumentModel &document, const std::function<void()> &command)
+{
+    if (document.Des() != u"1") {
+        command();
+        return;
+    }
+    DesignView *design = document.Design();
+    if (!design || !TakeDesignText(document, design->IsDirty())) {
+        MsgBox(u"The design view does not answer. Nothing has been done."_s,
+               Buttons::Ok,
+               Icon::Warning);
+        return;
+    }
+    const QString before = document.rtfText().Text();
+    command();
+    if (document.Des() != u"1" || document.rtfText().Text() == before || document.LoadDesign())
+        return;
+    document.Des = u"0"_s;
+    document.Status = u"HTML"_s;
 }
 
 } // namespace brenix

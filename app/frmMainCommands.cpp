@@ -4,6 +4,7 @@
 #include "app/Form32.h"
 #include "app/NewDocumentPane.h"
 #include "app/PrintSource.h"
+#include "app/TakeDesign.h"
 #include "app/ToolboxPanes.h"
 #include "app/frmAbout.h"
 #include "app/frmDocument.h"
@@ -97,7 +98,9 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
     commands[u"mnuSaveAsTemplate"_s] = [this] { SaveAsTemplate(); };
     commands[u"mnuFilePageSetup"_s] = [this] { PageSetup(this); };
     commands[u"mnuFilePrint"_s] = [this] {
-        ForActive([this](frmDocument &document) { PrintSource(document.Source(), this); });
+        ForActive([this](frmDocument &document) {
+            WithNewestText(document, [&] { PrintSource(document.Source(), this); });
+        });
     };
     commands[u"mnuFileExit"_s] = [this] { close(); };
 }
@@ -181,8 +184,12 @@ template <typename Reference> void frmMain::ShowReference()
     }
     const auto insert = [this](const QString &name) {
         ForActive([&](frmDocument &document) {
-            if (document.Status() == u"Design" || document.Source().isReadOnly())
+            if (document.Source().isReadOnly())
                 return;
+            if (document.Status() == u"Design" && document.Design()) {
+                document.Design()->PasteHTML(name.toHtmlEscaped());
+                return;
+            }
             document.Source().AddUndo();
             document.Source().SetSelText(name);
         });

@@ -1,6 +1,7 @@
 #include "app/frmDocument.h"
 #include "app/frmHelp.h"
 #include "app/frmMain.h"
+#include "support/DesignView.h"
 #include "support/Help.h"
 #include "support/MessageBoxes.h"
 #include "support/Paths.h"
@@ -41,8 +42,11 @@ void frmMain::AddHelpCommands(MainMenu::Commands &commands)
     commands[u"mnuHTMLreference"_s] = [] { ShowHelp(u"html reference"_s); };
     commands[u"mnuHelpTag"_s] = [this] {
         ForActive([](frmDocument &page) {
-            SelectTagAtCaret(page.rtfText());
-            ShowHelp(TagHelpKeyword(page.rtfText().SelText()));
+            const DesignView *design = page.Status() == u"Design" ? page.Design() : nullptr;
+            if (!design)
+                SelectTagAtCaret(page.rtfText());
+            ShowHelp(TagHelpKeyword(design ? u'<' + design->ActiveElement() + u'>'
+                                           : page.rtfText().SelText()));
         });
     };
 }

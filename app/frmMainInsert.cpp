@@ -226,14 +226,11 @@ void frmMain::ChooseBackground()
     frmBackground gallery(
         [page](const QString &path) {
             const QString address = LinkTo(*page, OwnCopy(*page, path));
-            // The design view has no say in the body's tag: the source takes the change for it.
-            const bool isDesign = page->Status() == u"Design";
-            if (isDesign && !TakeDesignText(*page, true))
-                return;
-            SetBodyBackground(page->rtfText(), address);
-            page->Modyfied = u"1"_s;
-            if (isDesign)
-                page->LoadDesign();
+            // The design view has no say in the body's tag.
+            WithNewestText(*page, [&] {
+                SetBodyBackground(page->rtfText(), address);
+                page->Modyfied = u"1"_s;
+            });
         },
         this);
     gallery.exec();

@@ -1,3 +1,4 @@
+#include "app/TakeDesign.h"
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
 #include "checks/Form30.h"
@@ -30,7 +31,9 @@ namespace {
 void frmMain::AddToolCommands(MainMenu::Commands &commands)
 {
     const auto onPage = [this](auto command) {
-        return [this, command] { ForActive([&](frmDocument &page) { command(page); }); };
+        return [this, command] {
+            ForActive([&](frmDocument &page) { WithNewestText(page, [&] { command(page); }); });
+        };
     };
     const auto format = [&](Format kind) {
         return onPage([kind](frmDocument &page) { FormatSelection(page, kind, KeepDrawing); });

@@ -1,6 +1,8 @@
 #include "support/DesignView.h"
 #include "tests/app/MainWindowFixture.h"
 
+#include <QComboBox>
+#include <QLabel>
 #include <QWebEnginePage>
 #include <QWebEngineView>
 
@@ -113,6 +115,38 @@ TEST_F(MainRoad, ExternalBrowserGetsWhatTheViewShows)
     Active().Design()->ExecCommand(Decmd::Undo);
     Trigger(u"mnuHtmlMode"_s);
     EXPECT_TRUE(isGiven("<h1>two</h1>")) << "the edit was undone";
+}
+
+TEST_F(MainRoad, CommandsOverTheSourceTakeWhatIsDesigned)
+{
+    Start({Write(u"page.html"_s, "<h1>one</h1>")});
+    Trigger(u"mnuDesignMode"_s);
+    Active().Design()->PasteHTML(u"<u>two</u> "_s);
+    Trigger(u"mnuStripTags"_s);
+    EXPECT_EQ(Active().Status(), u"Design"_s);
+    Trigger(u"mnuHtmlMode"_s);
+    EXPECT_EQ(Active().Source().Text().simplified(), u"two one"_s);
+}
+
+TEST_F(MainRoad, DesignBarsFollowTheActivePage)
+{
+    Start({Write(u"one.html"_s, "<title>One</title><h1>one</h1>")});
+    Trigger(u"mnuDesignMode"_s);
+    window->OpenPath(Write(u"two.html"_s, "<title>Two</title><p style='font-family:Nowhere'>two"));
+    Trigger(u"mnuDesignMode"_s);
+    const auto shows = [this](const QString &title, const QString &tag, const QString &style) {
+        const auto panel = [this](const QString &name) {
+            return Find<QWidget>(u"Sta"_s).findChild<QLabel *>(name)->text();
+        };
+        return WaitFor([&] {
+            return panel(u"Panel1"_s) == title && panel(u"Panel2"_s) == tag
+                && Find<QComboBox>(u"cobFormat"_s).currentText() == style;
+        });
+    };
+    EXPECT_TRUE(shows(u"Two"_s, u"P"_s, u"Normal"_s));
+    EXPECT_EQ(Find<QComboBox>(u"Font1"_s).placeholderText(), u"Nowhere"_s);
+    Trigger(u"mnuWindowNewWindow"_s);
+    EXPECT_TRUE(shows(u"One"_s, u"H1"_s, u"Heading 1"_s));
 }
 
 TEST_F(MainRoad, FilesDroppedOnAViewAreOpened)
