@@ -1,6 +1,7 @@
 #include "app/ErrorCheckerPane.h"
 
 #include "app/PaneList.h"
+#include "app/TakeDesign.h"
 #include "checks/ReportLine.h"
 #include "support/DocumentModel.h"
 #include "support/SourceView.h"
@@ -88,7 +89,7 @@ void ErrorCheckerPane::Press()
 void ErrorCheckerPane::Run(Checker checker)
 {
     DocumentModel *page = m_activePage();
-    if (!page || IsRunning())
+    if (!page || IsRunning() || !TakeNewestText(*page))
         return;
     Clear();
     const bool couldCheck = m_button->isEnabled();

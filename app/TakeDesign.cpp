@@ -15,6 +15,13 @@ namespace {
     const QString GeneratorMark
         = u"<META NAME=\"GENERATOR\" Content=\"Microsoft DHTML Editing Control\">"_s;
 
+    constexpr int RefreshDelay = 50; // ms
+
+    bool IsDesignNewer(const DocumentModel &document)
+    {
+        return document.Des() == u"1";
+    }
+
     // The first of each kind goes.
     void RemoveGeneratorMarks(SourceView &source)
     {
@@ -42,25 +49,31 @@ bool TakeDesignText(DocumentModel &document, bool cleaned)
     return true;
 }
 
-void WithNewestText(DocumentModel &document, const std::function<void()> &command)
+bool TakeNewestText(DocumentModel &document)
 {
-    if (document.Des() != u"1") {
-        command();
-        return;
-    }
+    if (!IsDesignNewer(document))
+        return true;
     DesignView *design = document.Design();
-    if (!design || !TakeDesignText(document, design->IsDirty())) {
-        MsgBox(u"The design view does not answer. Nothing has been done."_s,
-               Buttons::Ok,
-               Icon::Warning);
-        return;
+    const bool edited = design && design->IsDirty();
+    if (edited)
+        document.rtfText().AddUndo();
+    if (TakeDesignText(document, edited))
+        return true;
+    MsgBox(
+        u"The design view does not answer. Nothing has been done."_s, Buttons::Ok, Icon::Warning);
+    return false;
+}
+
+// The split view follows by itself.
+void ShowNewText(DocumentModel &document)
+{
+    if (document.Status() == u"Preview") {
+        document.KeyDone = true;
+        document.ArmRefresher(RefreshDelay);
+    } else if (IsDesignNewer(document) && !document.LoadDesign()) {
+        document.Des = u"0"_s;
+        document.Status = u"HTML"_s;
     }
-    const QString before = document.rtfText().Text();
-    command();
-    if (document.Des() != u"1" || document.rtfText().Text() == before || document.LoadDesign())
-        return;
-    document.Des = u"0"_s;
-    document.Status = u"HTML"_s;
 }
 
 } // namespace brenix

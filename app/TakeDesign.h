@@ -2,18 +2,18 @@
 
 #include "support/DocumentModel.h"
 
-#include <functional>
-
 namespace brenix {
 
 /// Brings the text of the design view into the source view; without the marks that older design
-/// controls left in a page where `cleaned`. False when the page does not answer: the source is then
+/// controls leave when `cleaned`. False when the view does not answer; the source is then left
 /// as it was.
 bool TakeDesignText(DocumentModel &document, bool cleaned);
 
-/// Runs a command that works on the source. While the design view holds the newest text, the source
-/// is given that text before, and the design view what the command makes of it after. When the
-/// design view does not answer, this is said and the command does not run.
-void WithNewestText(DocumentModel &document, const std::function<void()> &command);
+/// Before a command on the source, whatever the view: the source takes the text of a design view
+/// that is newer, which can be undone as a step of its own. False, after a message, when that view
+/// does not answer: what the command made of an older text would be lost.
+bool TakeNewestText(DocumentModel &document);
+/// After a command that has changed the source: the view that the author looks at shows it.
+void ShowNewText(DocumentModel &document);
 
 } // namespace brenix

@@ -17,6 +17,7 @@
 #include <QCloseEvent>
 #include <QFile>
 #include <QLabel>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -361,6 +362,18 @@ bool frmDocument::BringDesignToSource()
     MsgBox(
         u"The design view does not answer. Nothing has been saved."_s, Buttons::Ok, Icon::Warning);
     return false;
+}
+
+// Where the command has changed nothing, the view keeps its place and its history.
+void frmDocument::WithNewestText(const std::function<void()> &command)
+{
+    if (!TakeNewestText(*this))
+        return;
+    const QString before = m_source->Text();
+    const QPointer self(this); // a dialog of the command may outlive the page
+    command();
+    if (self && m_source->Text() != before)
+        ShowNewText(*this);
 }
 
 // Also when all edits were undone: the source may have been given them by a save in between.

@@ -5,6 +5,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 class QLabel;
 class QToolBar;
 
@@ -52,6 +54,9 @@ public:
     /// Brings the preview copy up to what the current view shows, and gives the file that a browser
     /// shows for it; empty when there is none.
     QString WriteBrowserCopy();
+    /// Runs a command on the source, whatever the view: it works on the newest text, and what it
+    /// makes of that is shown. A design view that does not answer is told of, and nothing runs.
+    void WithNewestText(const std::function<void()> &command);
     /// Renews the preview soon, as the view bar and F5 do.
     void RefreshPreview(int milliseconds);
     /// What the main window must know again when this window becomes active or gets another name.

@@ -4,7 +4,6 @@
 #include "app/Form32.h"
 #include "app/NewDocumentPane.h"
 #include "app/PrintSource.h"
-#include "app/TakeDesign.h"
 #include "app/ToolboxPanes.h"
 #include "app/frmAbout.h"
 #include "app/frmDocument.h"
@@ -99,7 +98,7 @@ void frmMain::AddFileCommands(MainMenu::Commands &commands)
     commands[u"mnuFilePageSetup"_s] = [this] { PageSetup(this); };
     commands[u"mnuFilePrint"_s] = [this] {
         ForActive([this](frmDocument &document) {
-            WithNewestText(document, [&] { PrintSource(document.Source(), this); });
+            document.WithNewestText([&] { PrintSource(document.Source(), this); });
         });
     };
     commands[u"mnuFileExit"_s] = [this] { close(); };

@@ -1,5 +1,4 @@
 #include "app/DesignTools.h"
-#include "app/TakeDesign.h"
 #include "app/frmBackground.h"
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
@@ -227,7 +226,7 @@ void frmMain::ChooseBackground()
         [page](const QString &path) {
             const QString address = LinkTo(*page, OwnCopy(*page, path));
             // The design view has no say in the body's tag.
-            WithNewestText(*page, [&] {
+            page->WithNewestText([&] {
                 SetBodyBackground(page->rtfText(), address);
                 page->Modyfied = u"1"_s;
             });

@@ -22,7 +22,6 @@ namespace brenix {
 namespace {
 
     constexpr int NoteTime = 10'000; // ms
-    constexpr int RefreshDelay = 50; // ms
     const QString PresetItem = u"mnuTidyPreset"_s;
 
     TidyPresets Presets()
@@ -39,7 +38,9 @@ void frmMain::AddTidyCommands(MainMenu::Commands &commands)
         if (!m_tidyCheck)
             m_tidyCheck = new TidyCheck(
                 pane, [this](const QString &note) { statusBar()->showMessage(note, NoteTime); });
-        ForActive([this](frmDocument &page) { m_tidyCheck->Start(page.Source().Text(), page); });
+        ForActive([this](frmDocument &page) {
+            page.WithNewestText([&] { m_tidyCheck->Start(page.Source().Text(), page); });
+        });
     });
 }
 
@@ -80,16 +81,15 @@ void frmMain::RunTidyPreset(const QString &name)
         TellTidyFailure();
 }
 
-// The page is taken from the source, which the design view hands its text to before, and takes the
-// corrected one from after.
 void frmMain::RunTidy(const QString &script, TidyScriptPlace place)
 {
     const QPointer<frmDocument> page(ActiveForm());
-    const bool isDesign = page && page->Status() == u"Design";
-    if (!page || page->Source().IsReadOnlyPage() || (isDesign && !TakeDesignText(*page, true))) {
+    if (!page || page->Source().IsReadOnlyPage()) {
         TellTidyFailure();
         return;
     }
+    if (!TakeNewestText(*page))
+        return;
     if (place == TidyScriptPlace::Preset)
         page->Source().AddUndo();
     const TidyResult result
@@ -99,10 +99,7 @@ void frmMain::RunTidy(const QString &script, TidyScriptPlace place)
     page->Source().SetText(*result.page);
     if (place == TidyScriptPlace::Preset)
         page->Source().AddUndo();
-    if (isDesign)
-        page->LoadDesign();
-    else if (page->Status() == u"Preview")
-        page->RefreshPreview(RefreshDelay);
+    ShowNewText(*page);
     if (result.isLeft)
         statusBar()->showMessage(
             u"The page has errors that Tidy does not correct; it is as it was"_s, NoteTime);

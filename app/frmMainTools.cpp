@@ -1,4 +1,3 @@
-#include "app/TakeDesign.h"
 #include "app/frmDocument.h"
 #include "app/frmMain.h"
 #include "checks/Form30.h"
@@ -32,7 +31,7 @@ void frmMain::AddToolCommands(MainMenu::Commands &commands)
 {
     const auto onPage = [this](auto command) {
         return [this, command] {
-            ForActive([&](frmDocument &page) { WithNewestText(page, [&] { command(page); }); });
+            ForActive([&](frmDocument &page) { page.WithNewestText([&] { command(page); }); });
         };
     };
     const auto format = [&](Format kind) {
@@ -45,7 +44,6 @@ void frmMain::AddToolCommands(MainMenu::Commands &commands)
     commands[u"mnuUpper"_s] = onPage([](frmDocument &page) { UpperSelection(page); });
     commands[u"mnuStripTags"_s]
         = onPage([](frmDocument &page) { ConvertToPlainText(page, KeepDrawing); });
-
     commands[u"mnuCompressSource"_s]
         = onPage([this](frmDocument &page) { frmCompress(page, this).exec(); });
     commands[u"mnuKeywords"_s]

@@ -1,5 +1,6 @@
 #include "app/ViewSwitch.h"
 
+#include "app/TakeDesign.h"
 #include "support/SettingsStore.h"
 #include "tests/support/FreshHome.h"
 #include "tests/support/MemoryDocument.h"
@@ -97,6 +98,31 @@ TEST(ViewSwitchRuns, CaretComesBackFromTheDesignView)
     document.Status = u"HTML"_s;
     RunViewSwitch(document, document.bars);
     EXPECT_EQ(document.source.SelStart(), 4);
+}
+
+TEST(DesignText, IsWhatACommandOnTheSourceWorksOn)
+{
+    MemoryDocument document;
+    document.source.SetText(u"old"_s);
+    document.design.html = u"edited"_s;
+    EXPECT_TRUE(TakeNewestText(document));
+    EXPECT_EQ(document.source.Text(), u"old"_s) << "the design view is no newer";
+    document.Des = u"1"_s;
+    EXPECT_TRUE(TakeNewestText(document));
+    EXPECT_EQ(document.source.Text(), u"edited"_s);
+    document.source.SetText(u"rewritten"_s);
+    ShowNewText(document);
+    EXPECT_EQ(document.design.html, u"rewritten"_s);
+
+    ScriptedBoxes boxes;
+    document.design.html.reset(); // the page does not answer
+    EXPECT_FALSE(TakeNewestText(document));
+    EXPECT_EQ(document.source.Text(), u"rewritten"_s);
+
+    document.Des = u"0"_s;
+    document.Status = u"Preview"_s;
+    ShowNewText(document);
+    EXPECT_TRUE(document.log.last().startsWith(u"arm"));
 }
 
 struct DesignCase
