@@ -21,6 +21,20 @@ namespace {
     const QString CheckCaption = u"Check!"_s;
     const QString StopCaption = u"Stop"_s;
 
+    /// A report may have more lines than the page has characters, and a row takes a few hundred
+    /// bytes. Its last lines are the totals.
+    constexpr qsizetype MostRows = 100'000;
+    constexpr qsizetype LastRows = 4;
+
+    QStringList WithoutMiddle(const QStringList &lines)
+    {
+        const qsizetype leftOut = lines.size() - MostRows - LastRows;
+        if (leftOut <= 0)
+            return lines;
+        return lines.first(MostRows) + QStringList(u"... (%1 lines more)"_s.arg(leftOut))
+            + lines.last(LastRows);
+    }
+
     void MoveCaret(SourceView &source, const std::vector<CaretMove> &moves)
     {
         for (const CaretMove &move : moves) {
@@ -106,7 +120,7 @@ void ErrorCheckerPane::Run(Checker checker)
         return;
     m_button->setText(CheckCaption);
     m_button->setEnabled(couldCheck);
-    AddLines(report.lines);
+    AddLines(WithoutMiddle(report.lines));
     if (m_activePage() == page)
         MoveCaret(page->rtfText(), report.caretMoves);
 }

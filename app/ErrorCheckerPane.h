@@ -22,7 +22,8 @@ public:
     /// What "Check!" does; without it the button can't be pressed.
     void SetCheck(std::function<void()> check);
     /// A check within the program, offered by the list's menu. It gets the text and the caption of
-    /// the page. While it runs "Check!" is "Stop", which ends it.
+    /// the page. While it runs "Check!" is "Stop", which ends it. A report that no one would read
+    /// to its end is shown without its middle.
     using Checker
         = std::function<CheckReport(const QString &text, const QString &caption, const GoOn &goOn)>;
     void AddChecker(const char16_t *name, const QString &caption, Checker checker);

@@ -109,6 +109,17 @@ TEST_F(ErrorChecks, ABuiltInCheckCanBeStopped)
     EXPECT_EQ(page.source.SelStart(), 6);
 }
 
+TEST_F(ErrorChecks, AnEndlessReportIsShownWithoutItsMiddle)
+{
+    CheckReport endless;
+    endless.lines = QStringList(200'000, u"x"_s) + QStringList(u"Totally 0 warnings"_s);
+    pane.AddChecker(u"x", u"Check"_s, [&](auto &&...) { return endless; });
+    pane.findChild<QAction *>(u"x"_s)->trigger();
+    EXPECT_LT(report.count(), 110'000);
+    EXPECT_EQ(Lines().constLast(), endless.lines.constLast());
+    EXPECT_EQ(Lines().filter(u"more"_s), QStringList(u"... (99997 lines more)"_s));
+}
+
 class TidyCommands : public MainWindowFixture
 {
 protected:
