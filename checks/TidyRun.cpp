@@ -124,7 +124,9 @@ TidyResult RunTidyScript(const QString &script,
         if (run.ending == Ending::Failed || result.isEmpty())
             continue;
         MsgBox(u"Script completed!"_s, Buttons::Ok, Icon::Information);
-        return {TidiedPage(result, page), run.status == TidyProgram::PageIsLeft};
+        // A script may have Tidy write a page with errors as well.
+        const bool isLeft = run.status == TidyProgram::PageIsLeft && result == page.toUtf8();
+        return {TidiedPage(result, page), isLeft};
     }
     TellTidyFailure();
     return {};

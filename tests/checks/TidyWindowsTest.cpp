@@ -51,6 +51,7 @@ TEST_F(TidyWindows, RunsAScriptInThreeAttempts)
         // clang-format off
         {"rewritten", "printf 'new ž' >\"$page\"; exit 1", preset, u"new ž"_s},
         {"errors", "exit 2", preset, u"old ž"_s, true},
+        {"errors, and rewritten", "printf 'new ž' >\"$page\"; exit 2", preset, u"new ž"_s},
         {"empty result", ": >\"$page\"", preset, std::nullopt},
         {"no result", "rm \"$page\"", preset, std::nullopt},
         {"killed half way", "printf half >\"$page\"; kill -9 $$", preset, std::nullopt},
