@@ -65,6 +65,7 @@ private:
     QComboBox *m_preset; // Preset
     CodeHighlight *m_code; // Code
     QString m_name; // whose script it is, also while another entry is just chosen
+    QString m_shownName; // that name before the author typed into it
 };
 
 } // namespace brenix

@@ -113,6 +113,7 @@ QString TidyScript::AskName() const
 void TidyScript::ShowName(const QString &name)
 {
     m_name = name;
+    m_shownName = name;
     const QSignalBlocker quiet(m_preset);
     m_preset->setCurrentIndex(m_preset->findText(name));
     m_preset->setEditText(name);
@@ -148,6 +149,9 @@ bool TidyScript::AgreeToLeave(const QString &whatFor)
 
 void TidyScript::ChoosePreset(const QString &name)
 {
+    // To type the name of another preset is to choose it, and not to put this script in its place.
+    if (m_name == name)
+        m_name = m_shownName;
     if (AgreeToLeave(u"open a new scriptfile?"_s))
         Load(name);
     else

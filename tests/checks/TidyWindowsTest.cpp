@@ -187,4 +187,16 @@ TEST_F(ScriptEditor, AChangedScriptIsNotDroppedUnasked)
     EXPECT_EQ(Saved(u"a"_s), u"Xwrap: 0"_s);
 }
 
+TEST_F(ScriptEditor, ATypedNameChoosesItsPreset)
+{
+    Type(Code(), u"X"_s);
+    List().lineEdit()->selectAll();
+    Type(*List().lineEdit(), u"b"_s);
+    boxes.answer = Answer::Yes;
+    Press(*List().lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(Saved(u"a"_s), u"Xwrap: 0"_s);
+    EXPECT_EQ(Saved(u"b"_s), u"indent: yes"_s) << "not the script of the other";
+    EXPECT_EQ(Code().Text(), u"indent: yes"_s);
+}
+
 } // namespace
