@@ -21,6 +21,8 @@ struct CheckReport
     int errors = 0;
     int warnings = 0;
     std::vector<CaretMove> caretMoves; ///< in the order of the rules; the last one lasts
+    /// The lines between the heading and the totals; some of them count as neither.
+    qsizetype findings = 0;
 };
 
 /// Counts one more finding, up to 32767, the largest number that a total shows.

@@ -191,6 +191,7 @@ CheckReport ErrorCheck(QStringView text, const QString &caption, const GoOn &goO
 {
     CheckReport report;
     report.lines = {u"Checking "_s + caption + u" for errors..."_s, QString()};
+    const qsizetype heading = report.lines.size();
     CharacterPass pass(text, report);
     Pulse pulse(goOn);
     // The last character is looked at in any case.
@@ -201,6 +202,7 @@ CheckReport ErrorCheck(QStringView text, const QString &caption, const GoOn &goO
     }
     if (going && pass.InScript())
         report.lines.append(u"No end of script tag..."_s);
+    report.findings = report.lines.size() - heading;
     report.lines.append(
         {QString(), QString(45, u'-'), u"Total Errors: "_s + QString::number(report.errors)});
     return report;

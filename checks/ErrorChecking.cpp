@@ -268,7 +268,10 @@ CheckReport ErrorChecking(QStringView text, const QStringList &catalogue, const 
 {
     CheckReport report;
     report.lines = {u"Checking document for errors"_s, QString(28, u'-'), u" "_s};
-    if (!SearchRules(text, catalogue, goOn, report).Run())
+    const qsizetype heading = report.lines.size();
+    const bool isWhole = SearchRules(text, catalogue, goOn, report).Run();
+    report.findings = report.lines.size() - heading;
+    if (!isWhole)
         return report;
     report.lines.append({u" "_s,
                          QString(20, u'-'),

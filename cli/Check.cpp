@@ -45,7 +45,7 @@ ExitStatus RunCheck(const QCommandLineParser &parser)
         = byRules ? ErrorChecking(*text, TagsOfDialect(dialect)) : ErrorCheck(*text, caption);
     if (WriteLines(report.lines) == Failed)
         return Failed;
-    return report.errors + report.warnings > 0 ? Found : Done;
+    return report.findings > 0 ? Found : Done;
 }
 
 } // namespace brenix

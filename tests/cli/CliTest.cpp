@@ -99,6 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"OptionWithoutValue", Highlight({u"PAGE"_s, u"--language"_s}), 2, "", "language"},
         Case{"Check", {u"check"_s}, 1, "Checking - for errors...\n\nTag st", "", "<<"},
         Case{"CheckWithoutFinding", {u"check"_s, u"--characters"_s}, 0, "Errors: 0\n", "", "<>"},
+        Case{"CheckFindsMoreThanErrors", {u"check"_s}, 1, "script tag...\n\n", "", "<script>"},
         Case{"CheckByRules",
              {u"check"_s, u"--rules"_s},
              1,
