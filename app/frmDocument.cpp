@@ -400,11 +400,16 @@ void frmDocument::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    DropOwnFiles();
+    event->accept();
+}
+
+void frmDocument::DropOwnFiles()
+{
     for (QTimer *timer : {&m_refresher, &m_copyWriter, &m_autoSave, &m_previewStart})
         timer->stop();
     DropDesignInput();
     DropPreviewCopy(Banen());
-    event->accept();
 }
 
 } // namespace brenix

@@ -69,6 +69,8 @@ public:
     /// stay; after true, closing asks nothing, until `StayOpen`.
     bool AgreeToClose();
     void StayOpen() { m_mayClose = false; }
+    /// Deletes the copies that lie beside the page for the other views: nothing is shown any more.
+    void DropOwnFiles();
     /// Sets font, colours, language and wrapping from the settings.
     void ConfigureSource();
 

@@ -70,6 +70,8 @@ signals:
     void PreviewPainted();
     /// All documents are closed and the window is gone.
     void Closed();
+    /// The program is to end at once, whatever is open.
+    void Ended();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -110,6 +112,7 @@ private:
     void ShowTips();
     void FinishStart();
     void StoreWindow();
+    void EndAtOnce();
 
     // documents
     void FillActive(const QString &page, int caret);

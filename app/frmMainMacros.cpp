@@ -34,7 +34,7 @@ void frmMain::AddMacroCommands(MainMenu::Commands &commands)
                  HTMLdoc();
              },
          .setSearchText = [this](const QString &text) { m_panes->SetSearchText(text); },
-         .end = [this] { close(); },
+         .end = [this] { EndAtOnce(); },
          .edit = [this] { EditMacros(); },
          .finished =
              [this] {
@@ -45,6 +45,14 @@ void frmMain::AddMacroCommands(MainMenu::Commands &commands)
     commands[u"mnuEditMacro"_s] = [this] { EditMacros(); };
     commands[u"mnuList"_s]
         = [this] { ForActive([this](frmDocument &document) { ListMacros(document); }); };
+}
+
+// No page is saved, and nothing is asked.
+void frmMain::EndAtOnce()
+{
+    for (frmDocument *document : Documents())
+        document->DropOwnFiles();
+    emit Ended();
 }
 
 void frmMain::EditMacros()

@@ -71,6 +71,8 @@ int main(int argc, char **argv)
         AnnouncePreview(window);
     QObject::connect(
         &window, &brenix::frmMain::Closed, &application, &QApplication::quit, Qt::QueuedConnection);
+    // Quitting would close the windows first, which ask for their pages.
+    QObject::connect(&window, &brenix::frmMain::Ended, [] { QApplication::exit(); });
     window.LoadSteps(*splash, brenix::ReadCommandLine(QApplication::arguments().mid(1)));
     splash.reset();
     return QApplication::exec();

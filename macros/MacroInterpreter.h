@@ -27,7 +27,7 @@ public:
     virtual void Command(const QString &menuName) = 0;
     /// Opens a page from the standard template, which the macro works on from then on.
     virtual void NewHtml() = 0;
-    /// Ends the program.
+    /// Ends the program at once: no page is saved, and nothing asked.
     virtual void End() = 0;
     virtual void Beep() = 0;
     virtual QString ClipboardText() = 0;

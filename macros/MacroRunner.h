@@ -19,7 +19,7 @@ struct MacroWindow
     std::function<void(const QString &menuName)> command;
     std::function<void()> newHtml; ///< the new page becomes the active one
     std::function<void(const QString &text)> setSearchText;
-    std::function<void()> end; ///< ends the program
+    std::function<void()> end; ///< ends the program, and asks for nothing
     std::function<void()> edit; ///< opens the dialog of the macros
     std::function<void()> finished; ///< the page is as the macro has left it
 };
