@@ -98,7 +98,7 @@ frmMacro::frmMacro(QWidget *parent)
     m_saver.setSingleShot(true);
     m_saver.setInterval(SaveDelay);
     connect(&m_saver, &QTimer::timeout, this, &frmMacro::Save);
-    connect(m_list, &QListWidget::currentRowChanged, this, &frmMacro::ShowSelected);
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &frmMacro::ShowSelected);
     connect(m_text, &QPlainTextEdit::textChanged, this, &frmMacro::OnEdit);
     connect(m_commands, &QComboBox::textActivated, this, &frmMacro::InsertCommand);
     Refill({});
@@ -165,7 +165,8 @@ void frmMacro::Refill(const QString &selected)
 void frmMacro::ShowSelected()
 {
     Save();
-    const QListWidgetItem *item = m_list->currentItem();
+    // Not the current one: that is the first as soon as the list has the focus.
+    const QListWidgetItem *item = m_list->selectedItems().value(0);
     m_name = item ? item->text() : QString();
     m_isEdited = false;
     m_saveFailed = false;
@@ -183,7 +184,7 @@ void frmMacro::ShowSelected()
     m_text->setEnabled(canEdit);
     m_text->setReadOnly(!file.page.faithful || HoldsStandIns(file.page.text));
     m_commands->setEnabled(canEdit && !m_text->isReadOnly());
-    const QString letter = MacroLetter(item ? m_list->currentRow() : -1);
+    const QString letter = MacroLetter(item ? m_list->row(item) : -1);
     m_shortcut->setText(letter.isEmpty() ? QString() : u"Ctrl + Shift + "_s + letter);
     TellUnknown(file.error);
 }

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -172,6 +173,8 @@ TEST_F(MacroCommands, TheDialogEditsTheFiles)
     auto &text = *dialog.findChild<QPlainTextEdit *>(u"Text1"_s);
     const auto click
         = [&dialog](const QString &name) { dialog.findChild<QPushButton *>(name)->click(); };
+    QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&list, &focus);
     click(u"Command3"_s);
     EXPECT_EQ(boxes.asked, QStringList{u"Please select a file before you try to delete it"_s});
     EXPECT_FALSE(text.isEnabled());
