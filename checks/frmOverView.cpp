@@ -22,8 +22,6 @@ namespace {
 
     constexpr int CharactersWide = 120;
     constexpr int RowsHigh = 36;
-    constexpr int TreeShare = 1;
-    constexpr int PageShare = 2;
 
     void AddNote(QSplitter *parts, const QString &text)
     {
@@ -62,8 +60,10 @@ frmOverView::frmOverView(DocumentModel &page, QWidget *parent, const Maker &make
         parts->addWidget(browser->Widget());
     else if (!browser)
         AddNote(parts, u"The page cannot be shown.\n\n"_s + WebModuleError());
-    parts->setStretchFactor(0, TreeShare);
-    parts->setStretchFactor(1, PageShare);
+    parts->setChildrenCollapsible(false);
+    // A web view has no width of its own, and would get none.
+    const int third = fontMetrics().averageCharWidth() * CharactersWide / 3;
+    parts->setSizes({third, 2 * third});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);

@@ -230,6 +230,27 @@ TEST_F(FolderWindows, Overview)
     EXPECT_EQ(status.currentMessage(), QString());
 }
 
+/// As the web view has, its widget has no size of its own.
+struct ShownBrowser : MemoryBrowser
+{
+    using MemoryBrowser::MemoryBrowser;
+    QWidget *Widget() override { return widget; }
+    QWidget *widget = nullptr;
+};
+
+TEST_F(FolderWindows, OverviewGivesThePageMostOfTheRoom)
+{
+    UsePage(u"<p>"_s);
+    ShownBrowser browser(m_page.log);
+    frmOverView window(m_page, nullptr, [&browser](QWidget *parent) {
+        browser.widget = new QWidget(parent);
+        return &browser;
+    });
+    window.show();
+    QCoreApplication::processEvents();
+    EXPECT_GT(browser.widget->width(), Find<QTreeWidget>(window, u"tvwView"_s).width());
+}
+
 TEST_F(FolderWindows, OverviewNeedsAFile)
 {
     m_page.Caption = folder.filePath(u"Document1.html"_s);
