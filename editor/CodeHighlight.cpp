@@ -9,6 +9,7 @@
 #include "support/AuthorFile.h"
 #include "support/MessageBoxes.h"
 #include "support/SettingsStore.h"
+#include "support/TextSearch.h"
 
 #include <QMimeData>
 #include <QPaintEvent>
@@ -234,9 +235,7 @@ void CodeHighlight::Restore(const std::optional<SnapshotHistory::Restored> &rest
 
 bool CodeHighlight::Search(const QString &text, int start)
 {
-    if (text.isEmpty())
-        return false;
-    const qsizetype found = Text().indexOf(text, std::max(0, start), Qt::CaseInsensitive);
+    const qsizetype found = FindWithoutCase(Text(), text, std::max(0, start));
     if (found < 0)
         return false;
     SetSelStart(int(found));

@@ -84,22 +84,32 @@ qsizetype TextSearch::NextStart(QStringView text, qsizetype from) const
 
 qsizetype TextSearch::FindIn(QStringView text, qsizetype from) const
 {
-    if (m_sought.isEmpty() || from < 0 || text.size() - from < m_sought.size())
+    if (from < 0 || text.size() - from < m_sought.size())
         return -1;
-    qsizetype fits = 0;
-    for (qsizetype i = from; i < text.size(); ++i) {
+    Progress progress{.at = from};
+    return FindNextIn(text, progress);
+}
+
+qsizetype TextSearch::FindNextIn(QStringView text, Progress &progress) const
+{
+    auto &[at, fits] = progress;
+    if (m_sought.isEmpty())
+        at = text.size();
+    while (at < text.size()) {
         if (fits == 0 && m_jumps) {
-            i = NextStart(text, i);
-            if (i == text.size())
-                return -1;
+            at = NextStart(text, at);
+            if (at == text.size())
+                break;
         }
-        const QChar unit = Fold(text[i]);
+        const QChar unit = Fold(text[at++]);
         while (fits > 0 && m_sought[fits] != unit)
             fits = m_shorter[std::size_t(fits)];
         if (m_sought[fits] == unit)
             ++fits;
-        if (fits == m_sought.size())
-            return i + 1 - fits;
+        if (fits == m_sought.size()) {
+            fits = m_shorter[std::size_t(fits)];
+            return at - m_sought.size();
+        }
     }
     return -1;
 }

@@ -42,6 +42,17 @@ public:
     qsizetype FindIn(QStringView text, qsizetype from = 0) const;
     bool StandsIn(QStringView text) const { return FindIn(text) >= 0; }
 
+    /// How far a search has come that goes on where it was.
+    struct Progress
+    {
+        qsizetype at = 0; ///< what stands before it has been read
+        qsizetype fits = 0; ///< how much of its end may begin a place; 0 lets none reach back
+    };
+    /// The next place, from a `Progress()` on each in turn, those that overlap included, in one
+    /// pass over all; -1 when there is none up to the end of the text. The text may then be one
+    /// that begins with this one and is longer.
+    qsizetype FindNextIn(QStringView text, Progress &progress) const;
+
 private:
     QChar Fold(QChar unit) const
     {

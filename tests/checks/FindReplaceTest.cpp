@@ -1,9 +1,7 @@
 #include "checks/FindReplace.h"
 
+#include "tests/checks/LiteralSteps.h"
 #include "tests/support/MemoryDocument.h"
-
-#include <gmock/gmock.h>
-#include <random>
 
 using namespace brenix;
 using namespace Qt::StringLiterals;
@@ -93,7 +91,6 @@ TEST(FindReplace, ReplaceAllIsOneStepToUndo)
     EXPECT_EQ(page.Text(), u"aAa ax"_s);
 }
 
-// What a search that starts over at each place finds.
 TEST(FindReplace, OnePassFindsEverything)
 {
     const QStringList pieces{u"a"_s,
@@ -103,28 +100,33 @@ TEST(FindReplace, OnePassFindsEverything)
                              u"\u00C9"_s,
                              u"\u212A"_s,
                              u"k"_s,
-                             u"\U00010400"_s,
-                             u"\U00010428"_s,
+                             u"\u017F"_s,
+                             u"s"_s,
                              u"\r\n"_s};
-    std::mt19937 random(7);
-    const auto any = [&](int most) {
-        QString text;
-        for (int i = int(random() % unsigned(most)) + 1; i > 0; --i)
-            text += pieces[qsizetype(random() % (i % 3 ? 2u : unsigned(pieces.size())))];
-        return text;
-    };
-    for (int i = 0; i < 3000; ++i) {
-        const QString page = any(40);
-        const QString text = any(5);
-        SCOPED_TRACE((page + u" / "_s + text).toStdString());
+    for (quint32 seed = 0; seed < 3000; ++seed) {
+        // Now and then a page that is gone through in several pieces.
+        const QString room(seed % 500 ? 0 : 1'000'000 + int(seed), u'a');
+        const QString page = room + RandomText(pieces.mid(0, 2 + seed % 9), 60, seed);
+        const QString text
+            = pieces[seed % 10] + RandomText(pieces.mid(0, 2 + seed % 4), 4, seed + 1);
+        SCOPED_TRACE((page.right(200) + u" / "_s + text).toStdString());
+        const QString lowerPage = LowerCased(page);
+        const QString lowerText = LowerCased(text);
         std::vector<int> expected;
-        for (qsizetype at = -1; (at = page.indexOf(text, at + 1, Qt::CaseInsensitive)) >= 0;)
+        for (qsizetype at = -1; (at = lowerPage.indexOf(lowerText, at + 1)) >= 0;)
             expected.push_back(int(at));
         ASSERT_EQ(Occurrences(page, text), expected);
         ASSERT_EQ(WithReplacements(page, text, u"a-"),
-                  QString(page).replace(text, u"a-"_s, Qt::CaseInsensitive));
+                  Replaced(page, text, u"a-"_s, Case::DoesNotCount));
     }
     EXPECT_EQ(Occurrences(u"abc", u""), std::vector<int>());
+}
+
+TEST(FindReplace, EndsOnTextThatRepeatsItself)
+{
+    const QString page(1'000'000, u'a');
+    EXPECT_EQ(Occurrences(page, QString(30'000, u'A')).size(), 970'001U);
+    EXPECT_EQ(WithReplacements(page, QString(1'000'000, u'A'), u"b"), u"b"_s);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "support/DesignView.h"
 #include "support/DocumentModel.h"
 #include "support/SourceView.h"
+#include "support/TextSearch.h"
 
 #include <QMap>
 #include <QStringList>
@@ -86,8 +87,7 @@ public:
 
     bool Search(const QString &text, int start) override
     {
-        const qsizetype found
-            = text.isEmpty() ? -1 : m_text.indexOf(text, std::max(0, start), Qt::CaseInsensitive);
+        const qsizetype found = brenix::FindWithoutCase(m_text, text, std::max(0, start));
         if (found < 0)
             return false;
         SetSelStart(int(found));
