@@ -102,7 +102,7 @@ void Toolbox::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     QTimer::singleShot(0, this, [this] {
-        if (m_stack->count() == 0)
+        if (!m_commands->checkedAction())
             ShowPane(m_first);
     });
 }
@@ -129,6 +129,12 @@ void Toolbox::ShowPane(const QString &command)
     m_title->setText(m_panes[command].title);
     ActionOf(command)->setChecked(true);
     m_stack->setCurrentWidget(Made(command));
+}
+
+void Toolbox::MakePane(const QString &command)
+{
+    if (m_panes.contains(command))
+        Made(command);
 }
 
 void Toolbox::FocusPane()

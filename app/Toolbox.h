@@ -37,6 +37,8 @@ public:
     void StartWith(const QString &command);
     /// Shows the pane of a command, and makes it at need; an unknown name changes nothing.
     void ShowPane(const QString &command);
+    /// Makes the pane at need, without showing it.
+    void MakePane(const QString &command);
     void FocusPane();
     /// Draws the eye to the title for a moment.
     void BlinkTitle();

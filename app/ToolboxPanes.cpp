@@ -186,8 +186,7 @@ bool ToolboxPanes::SearchNext()
 
 void ToolboxPanes::SetSearchText(const QString &text)
 {
-    if (!m_search)
-        m_toolbox.ShowPane(PaneCommand::Search.toString());
+    m_toolbox.MakePane(PaneCommand::Search.toString());
     m_search->SetSearchText(text);
 }
 

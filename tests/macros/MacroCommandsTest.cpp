@@ -147,6 +147,7 @@ TEST_F(MacroCommands, WordsReachTheWindow)
     RunAnd([] {});
     EXPECT_EQ(Active().Source().SelStart(), 3);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"B"_s);
+    EXPECT_FALSE(Find<QWidget>(u"Search"_s).isVisible()) << "the pane stays where it is";
     EXPECT_NE(Find<QAction>(u"mnuToolboxs"_s).isChecked(), shown);
 }
 
