@@ -1,6 +1,7 @@
 #include "checks/GlobalReplace.h"
 
 #include "checks/FolderWalk.h"
+#include "tests/checks/LiteralSteps.h"
 #include "tests/support/WithFolder.h"
 
 #include <QDir>
@@ -111,6 +112,32 @@ TEST_F(GlobalReplaceTest, OneFile)
         EXPECT_EQ(Replace(row.find, row.replacement), row.lines > 0 ? 2 : 0);
         EXPECT_EQ(Read(file), row.after);
         EXPECT_EQ(m_report.size(), 4 + row.lines);
+    }
+}
+
+TEST_F(GlobalReplaceTest, LinesAreTakenOneByOne)
+{
+    const QStringList pieces{u"a"_s, u"A"_s, u"b"_s, u"\r\n"_s, u"\r"_s, u"\n"_s, u"\u00C9"_s};
+    for (quint32 seed = 0; seed < 2000; ++seed) {
+        const QString text = RandomText(pieces, 30, seed);
+        const QString find = u"a"_s + RandomText({u"a"_s, u"B"_s, u"\u00E9"_s}, 2, seed + 1);
+        QStringList lines
+            = Replaced(Replaced(text, u"\r\n"_s, u"\n"_s), u"\r"_s, u"\n"_s).split(u'\n');
+        if (lines.constLast().isEmpty())
+            lines.removeLast();
+        QString after;
+        QStringList log;
+        for (qsizetype i = 0; i < lines.size(); ++i) {
+            const QString now = Replaced(lines[i], find, u"A-"_s, Case::DoesNotCount);
+            if (LowerCased(lines[i]).contains(LowerCased(find)))
+                log += u"In file: 'f', In line: '%1',  Was '%2', Now '%3'"_s.arg(
+                    QString::number(i + 1), lines[i], now);
+            after += now + u"\r\n";
+        }
+        Pulse pulse({});
+        const auto page = ReplaceInLines(text, TextSearch(find), u"A-"_s, u"f"_s, pulse);
+        ASSERT_EQ(page->text, after) << qPrintable(text + u" / "_s + find);
+        ASSERT_EQ(page->log, log);
     }
 }
 
