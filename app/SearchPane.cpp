@@ -6,6 +6,7 @@
 #include "support/DocumentModel.h"
 #include "support/MessageBoxes.h"
 #include "support/SettingsStore.h"
+#include "support/ShowSource.h"
 #include "support/SourceView.h"
 
 #include <QCheckBox>
@@ -122,9 +123,16 @@ bool SearchPane::IsLiveSearch() const
     return m_live->isChecked();
 }
 
-void SearchPane::FindInPage()
+// What is found is to be seen.
+DocumentModel *SearchPane::SourcePage() const
 {
     DocumentModel *page = m_activePage();
+    return page && BringUpSource(*page) ? page : nullptr;
+}
+
+void SearchPane::FindInPage()
+{
+    DocumentModel *page = SourcePage();
     if (!page)
         return;
     const QString text = SearchText();
@@ -138,7 +146,7 @@ void SearchPane::FindInPage()
 
 void SearchPane::ReplaceInPage()
 {
-    DocumentModel *page = m_activePage();
+    DocumentModel *page = SourcePage();
     if (!page)
         return;
     SourceView &source = page->rtfText();
@@ -152,7 +160,7 @@ void SearchPane::ReplaceInPage()
 
 void SearchPane::SearchNext()
 {
-    DocumentModel *page = m_activePage();
+    DocumentModel *page = SourcePage();
     if (!page)
         return;
     if (FindNext(page->rtfText(), SearchText()))
@@ -164,7 +172,7 @@ void SearchPane::SearchNext()
 void SearchPane::Live()
 {
     DocumentModel *page = m_activePage();
-    if (page && IsLiveSearch() && !SearchText().isEmpty())
+    if (page && ShowsSource(*page) && IsLiveSearch() && !SearchText().isEmpty())
         LiveSearch(page->rtfText(), SearchText());
 }
 
@@ -198,7 +206,7 @@ void SearchPane::OpenResults()
 
 void SearchPane::GoToHit(int position)
 {
-    if (DocumentModel *page = m_activePage()) {
+    if (DocumentModel *page = SourcePage()) {
         page->rtfText().SetSelStart(position);
         page->rtfText().SetSelLength(int(SearchText().size()));
         page->rtfText().SetFocus();

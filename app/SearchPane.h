@@ -32,6 +32,7 @@ private:
     QLineEdit *AddField(const QString &name, const QString &caption, const QString &tip);
     QPushButton *AddButton(const QString &name, const QString &caption, void (SearchPane::*)());
     QCheckBox *AddCheck(const QString &name, const QString &caption, const QString &tip);
+    DocumentModel *SourcePage() const;
     void FindInPage();
     void ReplaceInPage();
     void Live();

@@ -8,6 +8,7 @@
 #include "checks/frmGlobalSearch.h"
 #include "checks/frmKeywords.h"
 #include "checks/frmOverView.h"
+#include "support/ShowSource.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -34,14 +35,24 @@ void frmMain::AddToolCommands(MainMenu::Commands &commands)
             ForActive([&](frmDocument &page) { page.WithNewestText([&] { command(page); }); });
         };
     };
+    // The author is to see what is selected.
+    const auto onSelection = [this](auto command) {
+        return [this, command] {
+            ForActive([&](frmDocument &page) {
+                if (BringUpSource(page))
+                    command(page);
+            });
+        };
+    };
     const auto format = [&](Format kind) {
-        return onPage([kind](frmDocument &page) { FormatSelection(page, kind, KeepDrawing); });
+        return onSelection([kind](frmDocument &page) { FormatSelection(page, kind, KeepDrawing); });
     };
     commands[u"mnuFormatHiachal"_s] = format(Format::Hierarchical);
     commands[u"mnuCompact"_s] = format(Format::Compact);
     commands[u"mnuSimple"_s] = format(Format::Simple);
-    commands[u"mnuLowercase"_s] = onPage([](frmDocument &page) { LowerSelection(page); });
-    commands[u"mnuUpper"_s] = onPage([](frmDocument &page) { UpperSelection(page); });
+    commands[u"mnuLowercase"_s] = onSelection([](frmDocument &page) { LowerSelection(page); });
+    commands[u"mnuUpper"_s] = onSelection([](frmDocument &page) { UpperSelection(page); });
+
     commands[u"mnuStripTags"_s]
         = onPage([](frmDocument &page) { ConvertToPlainText(page, KeepDrawing); });
     commands[u"mnuCompressSource"_s]

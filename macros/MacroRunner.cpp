@@ -4,6 +4,7 @@
 #include "macros/PressKeys.h"
 #include "support/DocumentModel.h"
 #include "support/MessageBoxes.h"
+#include "support/ShowSource.h"
 #include "support/SourceView.h"
 
 #include <QApplication>
@@ -23,11 +24,6 @@ namespace {
 
     // A macro that presses its own shortcut would never come back.
     constexpr int MostInside = 8;
-
-    bool ShowsSource(const DocumentModel &page)
-    {
-        return page.Status() == u"HTML" || page.Status() == u"Split";
-    }
 
 } // namespace
 
@@ -114,9 +110,7 @@ void MacroRunner::Run(const QString &name)
     if (!page || m_running == MostInside)
         return;
     // A macro works on the source, and the author is to see what it does.
-    if (!ShowsSource(*page))
-        page->Status = u"HTML"_s;
-    if (!ShowsSource(*page))
+    if (!BringUpSource(*page))
         return;
     const MacroFile file = ReadMacroFile(name);
     if (file.error) {

@@ -341,6 +341,9 @@ TEST_F(ToolboxPanesTest, SearchFindsAndLists)
     EXPECT_THAT(Rows(hits), ElementsAre(u"Char: 0"_s, u"Char: 6"_s, u"Char: 8"_s));
     Trigger(u"mnuSearchNext"_s);
     EXPECT_THAT(boxes.asked, ElementsAre(u"Can't find \"o\""_s, u"Can't find 'o'"_s));
+    Active().Status = u"Preview"_s;
+    Enter(hits, 0);
+    EXPECT_EQ(Active().Status(), u"HTML"_s) << "what is found is to be seen";
     results->close();
     Settle();
     EXPECT_FALSE(results);
