@@ -1,6 +1,4 @@
 #include "cli/Verb.h"
-#include "editor/PageText.h"
-#include "editor/TextRope.h"
 #include "support/AuthorFile.h"
 #include "support/SettingsStore.h"
 #include "support/TextCodec.h"
@@ -187,7 +185,7 @@ std::optional<QString> ReadInput(const QCommandLineParser &parser, qsizetype arg
         return std::nullopt;
     }
     const QByteArray codec = GetSetting(u"Editor", u"Encoding", u"windows-1250"_s).toLatin1();
-    return TextOf(TextRope(HeldText(DecodePage(file.bytes, codec).text)));
+    return WithCrLf(DecodePage(file.bytes, codec).text);
 }
 
 bool WriteOutput(const QString &text)

@@ -24,12 +24,6 @@ namespace {
     constexpr int UndoDelay = 5; // ms
     constexpr int LargestFont = 200; // points
 
-    // The same text with every line end as CR LF.
-    QString WithCrLf(const QString &text)
-    {
-        return TextOf(HeldText(text, LineEnd::CrLf));
-    }
-
     QColor ColourOf(quint32 value)
     {
         const qint64 translated = TranslateColour(value);

@@ -1,5 +1,7 @@
 #include "support/DesignText.h"
 
+#include "support/TextCodec.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -23,13 +25,6 @@ namespace {
 
     constexpr auto rawTextElements = std::to_array<QStringView>(
         {u"script", u"style", u"title", u"textarea", u"xmp", u"iframe", u"noembed", u"noframes"});
-
-    QString WithCrLf(QString text)
-    {
-        text.replace(u"\r\n"_s, u"\n"_s);
-        text.replace(u'\r', u'\n');
-        return text.replace(u'\n', u"\r\n"_s);
-    }
 
     bool IsBlank(QChar c)
     {

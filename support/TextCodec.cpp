@@ -260,6 +260,13 @@ EncodedPage EncodePage(QStringView text, const PageEncoding &encoding, Unencodab
     return page;
 }
 
+QString WithCrLf(QString text)
+{
+    text.replace(u"\r\n"_s, u"\n"_s);
+    text.replace(u'\r', u'\n');
+    return text.replace(u'\n', u"\r\n"_s);
+}
+
 bool HoldsStandIns(QStringView text)
 {
     return std::any_of(text.begin(), text.end(), [](QChar character) {

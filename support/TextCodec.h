@@ -29,6 +29,9 @@ struct DecodedPage
 /// sequence decodes.
 DecodedPage DecodePage(const QByteArray &bytes, const QByteArray &userCodec);
 
+/// The text with each of its line ends (CR LF, CR, LF) as CR LF, as commands see a page.
+QString WithCrLf(QString text);
+
 /// What to do with a character that the encoding lacks.
 enum class Unencodable {
     Refuse, ///< encode nothing, say where it stands

@@ -81,6 +81,12 @@ INSTANTIATE_TEST_SUITE_P(
         Case{
             "InputWithoutFile", Highlight({u"--language=none"_s}), 0, "a\r\nb\r\nc", "", "a\nb\rc"},
         Case{"InputAsDash", Highlight({u"--language=none"_s, u"-"_s}), 0, "page", "", "page"},
+        Case{"InputThatTheEditorOnlyShows",
+             Highlight({u"--language=none"_s}),
+             0,
+             "\xEF\xB7\x92\r\n",
+             "",
+             "\xEF\xB7\x92\n"},
         Case{"EmptyInput", Highlight({u"--language=none"_s}), 0},
         Case{"MissingFile", Highlight({u"FOLDER/none.html"_s}), 2, "", "none.html: "},
         Case{"Directory", Highlight({u"FOLDER"_s}), 2, "", "brenix-cli: "},
