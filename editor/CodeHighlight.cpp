@@ -357,25 +357,4 @@ void CodeHighlight::AfterEdit(int from, int length)
                                   LargeFile());
 }
 
-QMimeData *CodeHighlight::createMimeDataFromSelection() const
-{
-    auto *data = new QMimeData;
-    data->setText(SelText().replace(u"\r\n"_s, u"\n"_s));
-    return data;
-}
-
-bool CodeHighlight::canInsertFromMimeData(const QMimeData *source) const
-{
-    return source->hasText() && !isReadOnly();
-}
-
-void CodeHighlight::insertFromMimeData(const QMimeData *source)
-{
-    if (!canInsertFromMimeData(source))
-        return;
-    AddUndo();
-    SetSelText(source->text());
-    ensureCursorVisible();
-}
-
 } // namespace brenix

@@ -1,12 +1,9 @@
 #include "editor/CodeHighlight.h"
-#include "editor/LargeFile.h"
 #include "editor/LineEnds.h"
-#include "editor/PageText.h"
 #include "editor/VirtualKeys.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 
 using namespace Qt::StringLiterals;
 
@@ -241,6 +238,8 @@ bool CodeHighlight::HandleDeletion(QKeyEvent *event, int keyCode)
     const bool back = keyCode == VirtualKey::Back;
     if ((!back && keyCode != VirtualKey::Delete) || event->modifiers().testFlag(Qt::AltModifier))
         return false;
+    if (event->matches(QKeySequence::Cut)) // Shift and Delete
+        copy();
     QTextCursor cursor = textCursor();
     if (!cursor.hasSelection()) {
         const bool word = event->modifiers().testFlag(Qt::ControlModifier);
@@ -299,15 +298,6 @@ void CodeHighlight::mouseDoubleClickEvent(QMouseEvent *event)
 {
     QPlainTextEdit::mouseDoubleClickEvent(event);
     emit DblClick();
-}
-
-void CodeHighlight::dragEnterEvent(QDragEnterEvent *event)
-{
-    // Files are for the window, not for the text.
-    if (event->mimeData()->hasUrls())
-        event->ignore();
-    else
-        QPlainTextEdit::dragEnterEvent(event);
 }
 
 void CodeHighlight::contextMenuEvent(QContextMenuEvent *event)

@@ -286,16 +286,3 @@ TEST(CodeHighlightKeys, NoKeyPressIsLostAtASoftBreak)
         }
     }
 }
-
-TEST(CodeHighlightKeys, CopyKeepsCharacters)
-{
-    CodeHighlight editor;
-    const QString text = u"a\u00A0\u2028b\r\n\u2029c"_s;
-    editor.SetText(text);
-    editor.selectAll();
-    editor.copy();
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QString(text).replace(u"\r\n"_s, u"\n"_s));
-    editor.SetText({});
-    editor.paste();
-    EXPECT_EQ(editor.Text(), text);
-}
