@@ -122,11 +122,11 @@ void CodeHighlight::SetText(const QString &text)
         if (caret >= from && caret <= upTo)
             Select(from, from);
     }
-    TellLimitOnce(TextLength());
     m_colours.ColourAll(LargeFile());
     m_repaintEnabled = true;
     viewport()->update();
     OnSelChange();
+    TellLimitOnce(TextLength());
 }
 
 int CodeHighlight::TextLength() const
@@ -185,8 +185,8 @@ void CodeHighlight::SetSelText(const QString &text)
     const QTextCursor cursor = textCursor();
     const int start = cursor.selectionStart();
     const QString held = HeldText(text, m_mirror->UsualEnd());
-    TellLimitOnce(text.size());
     ReplaceHeld(start, cursor.selectionEnd() - start, held);
+    TellLimitOnce(text.size());
 }
 
 void CodeHighlight::AddUndo()

@@ -19,9 +19,9 @@ void CodeHighlight::SetLanguage(int language)
 
 void CodeHighlight::Recolour()
 {
-    TellLimitOnce(TextLength());
     m_colours.ColourAll(LargeFile());
     viewport()->update();
+    TellLimitOnce(TextLength());
 }
 
 void CodeHighlight::AddWord(const QString &word, WordClass wordClass)
@@ -41,7 +41,8 @@ QString CodeHighlight::HighlightBlock(const QString &text)
                                       : text;
 }
 
-// Shown when a page is too long to be coloured, the first time that this happens to the user.
+// Shown when a page is too long to be coloured, the first time that this happens to the user. To be
+// called when all is done: the page may be painted and used while the message stands.
 void CodeHighlight::TellLimitOnce(qsizetype length)
 {
     if (length <= LargeFile() || Language() == SyntaxTables::None

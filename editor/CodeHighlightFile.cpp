@@ -38,7 +38,6 @@ void CodeHighlight::SetHeld(const QString &held)
     m_textChanged = true;
     m_mirror->SetUsualEnd(UsualLineEnd(held));
     m_mirror->Replace(0, m_mirror->Rope().Length(), held);
-    TellLimitOnce(TextLength());
     m_colours.ColourAll(LargeFile());
     Select(0, 0);
     m_lastLine = 0;
@@ -47,6 +46,7 @@ void CodeHighlight::SetHeld(const QString &held)
     setUpdatesEnabled(true);
     m_repaintEnabled = true;
     PlaceGutter();
+    TellLimitOnce(TextLength());
 }
 
 bool CodeHighlight::NeedsOtherEncoding() const

@@ -182,6 +182,36 @@ TEST(CodeHighlightColour, TheLimit)
     SetLargeFile(limit);
 }
 
+// The message runs an event loop of its own.
+TEST(CodeHighlightColour, ThePageCanBePaintedWhileTheLimitsMessageStands)
+{
+    ScriptedBoxes boxes;
+    const int limit = LargeFile();
+    CodeHighlight editor;
+    editor.SetLanguage(Java);
+    editor.SetText(u"/*\r\n"_s.repeated(20));
+    int told = 0;
+    Scripted().msgBox = [&](const QString &, Buttons, Icon) {
+        EXPECT_TRUE(editor.updatesEnabled());
+        editor.show();
+        editor.grab();
+        ++told;
+        return Answer::Ok;
+    };
+    SetLargeFile(20);
+    const auto expectMessage = [&told, count = 0](const auto &command) mutable {
+        SaveSetting(u"Settings", u"Bigfile", u"True"_s);
+        command();
+        EXPECT_EQ(told, ++count);
+    };
+    expectMessage([&] { editor.SetLanguage(Html); });
+    expectMessage([&] { editor.SetText(u"x"_s.repeated(21)); });
+    expectMessage([&] { editor.SetSelText(u"y"_s.repeated(21)); });
+    expectMessage(
+        [&] { editor.LoadFile(QStringLiteral(BRENIX_TEST_DATA "/../docs/sample.html")); });
+    SetLargeFile(limit);
+}
+
 TEST(CodeHighlightColour, SpellingOfEditedBasicLines)
 {
     const struct
