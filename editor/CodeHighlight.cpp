@@ -2,17 +2,11 @@
 
 #include "editor/Gutter.h"
 #include "editor/LargeFile.h"
-#include "editor/LineEnds.h"
 #include "editor/PageText.h"
 #include "editor/PrintedSource.h"
 #include "editor/SourceLayout.h"
-#include "support/AuthorFile.h"
-#include "support/MessageBoxes.h"
-#include "support/SettingsStore.h"
 #include "support/TextSearch.h"
 
-#include <QMimeData>
-#include <QPaintEvent>
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
@@ -167,7 +161,8 @@ int CodeHighlight::SelLength() const
 void CodeHighlight::SetSelLength(int length)
 {
     const int start = textCursor().selectionStart();
-    const int end = m_mirror->Rope().ToTextPosition(start) + std::max(0, length);
+    const int textStart = m_mirror->Rope().ToTextPosition(start);
+    const int end = textStart + std::clamp(length, 0, TextLength() - textStart);
     Select(start, m_mirror->Rope().FromTextPosition(end));
 }
 

@@ -80,7 +80,7 @@ public:
     int HighlightCode() const { return m_highlightCode; }
     void SetHighlightCode(int value) { m_highlightCode = value; }
     /// Whether words of an edited Basic line take the table's spelling when the line is coloured.
-    void SetGiveCorrectCase(bool on) { m_giveCorrectCase = on; }
+    void SetGiveCorrectCase(bool on) { m_tables.SetGiveCorrectCase(on); }
     /// Right margin in twips: 0 wraps at the window's edge, anything else does not wrap.
     double Margin() const { return m_margin; }
     void SetMargin(double twips);
@@ -195,7 +195,6 @@ private:
     int m_gutterTopLine = -4;
     int m_caretBefore = 0;
     int m_anchorBefore = 0;
-    bool m_giveCorrectCase = true;
     bool m_repaintEnabled = true;
     bool m_undoBusy = false;
     bool m_textChanged = false;

@@ -1,7 +1,6 @@
 #include "editor/CodeHighlight.h"
 #include "editor/Gutter.h"
 #include "editor/LargeFile.h"
-#include "editor/LineEnds.h"
 #include "support/MessageBoxes.h"
 #include "support/SettingsStore.h"
 
@@ -87,22 +86,25 @@ void CodeHighlight::RepaintLine(int line)
     if (start < 0)
         return;
     NormaliseLine(line);
-    TellLimitOnce(rope.LineFinish(line) - start);
     if (m_colours.ColourLineAlone(document()->findBlock(start),
                                   document()->findBlock(rope.LineFinish(line)),
                                   LargeFile()))
         viewport()->update();
+    TellLimitOnce(rope.LineFinish(line) - start);
 }
 
 void CodeHighlight::NormaliseLine(int line)
 {
-    if (!m_giveCorrectCase || line != m_editedLine || !m_tables.NormalisesCase())
+    if (line != m_editedLine || !m_tables.NormalisesCase())
         return;
     const TextRope rope = m_mirror->Rope();
     const int start = rope.LineStart(line);
-    const QString before = rope.Mid(start, rope.LineFinish(line) - start);
+    const int length = rope.LineFinish(line) - start;
+    if (length > LargeFile())
+        return;
+    const QString before = rope.Mid(start, length);
     const QString after = WithNormalisedCase(before, m_tables);
-    if (after == before || after.size() > LargeFile())
+    if (after == before)
         return;
     // Unit by unit, so that the caret stays between the same two characters.
     m_textChanged = true;

@@ -210,7 +210,7 @@ bool CodeHighlight::IndentSelection()
     if (indented.size() == selected.size() + 1)
         return false;
     ReplaceHeld(start, int(selected.size()), indented);
-    Select(start, start + int(indented.size()));
+    Select(start, Caret()); // behind soft breaks too that the tabs have made due
     return true;
 }
 

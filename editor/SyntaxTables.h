@@ -36,8 +36,10 @@ public:
     /// A block runs from `start` to the first `end` behind it.
     void AddCommentTag(const QString &start, const QString &end);
 
-    /// Whether a found word is written as the table spells it.
-    bool NormalisesCase() const { return m_normaliseCase; }
+    /// Whether a found word is written as the table spells it: Basic asks for it, and the user may
+    /// want no word corrected.
+    bool NormalisesCase() const { return m_normaliseCase && m_giveCorrectCase; }
+    void SetGiveCorrectCase(bool on) { m_giveCorrectCase = on; }
 
     struct Word
     {
@@ -148,6 +150,7 @@ private:
     int m_language = None;
     bool m_ignoreCase = false;
     bool m_normaliseCase = false;
+    bool m_giveCorrectCase = true;
 };
 
 } // namespace brenix

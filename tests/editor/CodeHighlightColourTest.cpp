@@ -251,6 +251,7 @@ TEST(CodeHighlightColour, SpellingOfEditedBasicLines)
     editor.SetGiveCorrectCase(false);
     Type(editor, u"dim a "_s);
     EXPECT_EQ(Marked(editor), u"dim a |"_s);
+    EXPECT_TRUE(editor.HighlightBlock(u"dim"_s).endsWith(u"\\cf1 dim\\cf0 }"_s));
 }
 
 TEST(CodeHighlightColour, ALanguageThatDoesNotExist)
