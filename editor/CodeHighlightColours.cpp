@@ -5,6 +5,7 @@
 #include "support/SettingsStore.h"
 
 #include <QPaintEvent>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
@@ -170,8 +171,15 @@ void CodeHighlight::OnScroll()
 void CodeHighlight::PlaceGutter()
 {
     const int width = m_gutter->WidthFor(LineCount());
-    setViewportMargins(width, 0, 0, 0);
     const QRect inner = contentsRect();
+    // Lines that have no width left are not wrapped. Where the scroll bar takes it, the page would
+    // need the bar, fit beside it, and so on without end.
+    const int barWidth = verticalScrollBar()->sizeHint().width();
+    const bool barFits = inner.width() - width - barWidth >= fontMetrics().maxWidth();
+    setVerticalScrollBarPolicy(barFits ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    // Each call lays the view out anew, which comes back here.
+    if (viewportMargins().left() != width)
+        setViewportMargins(width, 0, 0, 0);
     m_gutter->setGeometry(inner.left(), inner.top(), width, inner.height());
 }
 

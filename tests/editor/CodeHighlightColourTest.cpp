@@ -287,3 +287,17 @@ TEST(CodeHighlightColour, FiftyNumbersFromTheFirstVisibleLine)
     EXPECT_EQ(numbers(), u"71 50"_s);
     EXPECT_EQ(scrolled, 1);
 }
+
+// Beside the numbers there may be no room for the scroll bar that wrapped lines would need there.
+TEST(CodeHighlightColour, AViewOfAnyWidthComesToRest)
+{
+    CodeHighlight editor;
+    editor.SetMargin(0);
+    editor.SetText(u"word "_s.repeated(60));
+    editor.show();
+    for (int width = 0; width < 100; ++width) {
+        editor.resize(width, 50);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_TRUE(editor.verticalScrollBar()->isVisible());
+}
