@@ -58,7 +58,7 @@ inline QString RandomText(const QStringList &pieces, int most, quint32 seed)
 /// The pages in the folder that BRENIX_PAGES names, and else the project's own.
 inline QStringList RealPages()
 {
-    const QString docs = SourceFile("docs");
+    const QString docs = brenix::SourceFile("docs");
     QDirIterator files(qEnvironmentVariable("BRENIX_PAGES", docs),
                        {QStringLiteral("*.html")},
                        QDir::Files,
