@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QLabel>
+#include <QPainter>
 #include <QVersionNumber>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +17,20 @@ namespace {
 
     constexpr int WorthAPicture = 150; // ms
     constexpr int CharactersWide = 44;
+
+    /// Paths may be longer than the picture is wide: then their middle is left out.
+    class StatusLine : public QLabel
+    {
+    public:
+        using QLabel::QLabel;
+
+    private:
+        void paintEvent(QPaintEvent *) override
+        {
+            const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
+            QPainter(this).drawText(rect(), int(alignment()), shown);
+        }
+    };
 
     int VersionPart(int index)
     {
@@ -60,7 +75,7 @@ void frmSplash::Build()
     auto *version = new QLabel(
         u"Version %1.%2  built %3"_s.arg(VersionMajor()).arg(VersionMinor()).arg(VersionBuild()),
         this);
-    m_status = new QLabel(this);
+    m_status = new StatusLine(this);
     for (QLabel *label : {picture, name, version, m_status}) {
         label->setAlignment(Qt::AlignCenter);
         layout->addWidget(label);
@@ -84,8 +99,7 @@ void frmSplash::Say(const QString &text)
     setAccessibleDescription(text);
     if (!m_status)
         return;
-    // Paths may be longer than the picture is wide.
-    m_status->setText(m_status->fontMetrics().elidedText(text, Qt::ElideMiddle, m_status->width()));
+    m_status->setText(text);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

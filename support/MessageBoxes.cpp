@@ -141,8 +141,13 @@ namespace {
     /// said what kind of file it is; else the dialog's own.
     void FollowFilter(QFileDialog *chooser, const QString &defaultSuffix)
     {
-        const auto follow = [chooser, defaultSuffix](const QString &nameFilter) {
-            const QString suffix = SuffixOf(nameFilter);
+        // What is selected may come without the patterns.
+        const auto follow = [chooser, defaultSuffix](const QString &selected) {
+            QString suffix;
+            for (const QString &filter : chooser->nameFilters()) {
+                if (filter == selected || filter.startsWith(selected + u" ("_s))
+                    suffix = SuffixOf(filter);
+            }
             chooser->setDefaultSuffix(suffix.isEmpty() ? defaultSuffix : suffix);
         };
         QObject::connect(chooser, &QFileDialog::filterSelected, chooser, follow);

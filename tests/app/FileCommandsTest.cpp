@@ -315,8 +315,11 @@ TEST_F(FileCommands, DroppedFilesAreNeverMoved)
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(Write(u"a.html"_s, "a"))});
     Start();
-    QDropEvent drop({5, 5}, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    EXPECT_EQ(drop.proposedAction(), Qt::MoveAction);
+    const Qt::DropActions actions = Qt::MoveAction | Qt::CopyAction;
+    QDragEnterEvent enter({5, 5}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(enter.proposedAction(), Qt::MoveAction);
+    QCoreApplication::sendEvent(window.get(), &enter);
+    QDropEvent drop({5, 5}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(window.get(), &drop);
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
     Settle();

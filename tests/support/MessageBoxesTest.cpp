@@ -182,7 +182,8 @@ TEST(MessageBoxes, SavingAddsTheSuffixAndAsksBeforeOverwriting)
 
 TEST(MessageBoxes, SavingTakesTheSuffixOfTheFilter)
 {
-    const std::pair<int, QString> cases[] = {{0, u"a.html"_s}, {1, u"a.css"_s}, {2, u"a.txt"_s}};
+    const std::pair<int, QString> cases[]
+        = {{0, u"a.html"_s}, {1, u"a.css"_s}, {2, u"a.txt"_s}, {3, u"a.rtf"_s}};
     const QTemporaryDir folder;
     for (const auto &[filter, saved] : cases) {
         WhenOpen<QFileDialog>([filter = filter](QFileDialog *box) {
@@ -195,7 +196,7 @@ TEST(MessageBoxes, SavingTakesTheSuffixOfTheFilter)
         });
         EXPECT_EQ(SaveFileName({.title = u"Save"_s,
                                 .filter = u"All Files (*.*)|*.*|Stylesheet (*.css)|*.css|"
-                                          "Text file (*.txt;*.asc)|*.txt;*.asc"_s,
+                                          "Text file (*.txt;*.asc)|*.txt;*.asc|RTF files|*.rtf"_s,
                                 .name = folder.filePath(u"a"_s),
                                 .defaultSuffix = u"html"_s}),
                   folder.filePath(saved));
