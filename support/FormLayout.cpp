@@ -95,6 +95,11 @@ QPushButton *Form::ButtonBeside(const char16_t *name,
     QPushButton *button = NewButton(name, caption, std::move(clicked));
     const int row = m_grid->rowCount() - 1;
     QLayoutItem *cell = m_grid->itemAtPosition(row, ButtonColumn);
+    if (QWidget *whole = cell ? cell->widget() : nullptr) {
+        m_grid->removeWidget(whole);
+        m_grid->addWidget(whole, row, 0, 1, ButtonColumn);
+        cell = nullptr;
+    }
     auto *buttons = cell ? static_cast<QHBoxLayout *>(cell->layout()) : new QHBoxLayout;
     if (!cell)
         m_grid->addLayout(buttons, row, ButtonColumn);

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -120,7 +121,13 @@ TEST_F(FormRows, TellOfChangesWithTheFieldsUpToDate)
 TEST_F(FormRows, HaveCaptionsAndButtons)
 {
     EXPECT_EQ(Find<QLineEdit>(u"Text1"_s).accessibleName(), u"Text"_s);
+    QCheckBox *check = form.Check(u"Check9", u"Check"_s, fields.isTicked);
+    QPushButton *beside = form.ButtonBeside(u"Command9", u"Beside"_s, [] {});
+    form.ButtonBeside(u"Command8", u"Another"_s, [] {});
     QLineEdit *text = form.Text(u"Text9", u"Last"_s, fields.text);
+    page.resize(page.sizeHint());
+    page.layout()->activate();
+    EXPECT_GE(beside->x(), check->geometry().right()) << "beside a row that had the whole width";
     QString answer;
     QPushButton *button = form.ChooserBeside(u"Command1", u"..."_s, [&](const QString &now) {
         return answer.isEmpty() ? answer : now + answer;
