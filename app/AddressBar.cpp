@@ -1,5 +1,6 @@
 #include "app/AddressBar.h"
 
+#include "app/InnerToolBar.h"
 #include "app/SkinIcons.h"
 
 #include <QActionGroup>
@@ -41,9 +42,7 @@ AddressBar::AddressBar(QWidget *parent)
     addSeparator();
 
     auto *modes = new QActionGroup(this);
-    auto *modeBar = new QToolBar(this);
-    modeBar->setObjectName(u"Toolbar3"_s);
-    addWidget(modeBar);
+    QToolBar *modeBar = NewInnerToolBar(u"Toolbar3"_s, *this);
     m_local = modeBar->addAction(SkinIcon(u"local"), u"Local"_s);
     QAction *server = modeBar->addAction(SkinIcon(u"server"), u"Server"_s);
     m_local->setToolTip(u"Local: preview the page itself"_s);

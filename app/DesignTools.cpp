@@ -1,5 +1,6 @@
 #include "app/DesignTools.h"
 
+#include "app/InnerToolBar.h"
 #include "app/SkinIcons.h"
 #include "support/ColourText.h"
 #include "support/DesignView.h"
@@ -75,9 +76,7 @@ void DesignTools::AddCommand(QToolBar &bar, const char16_t *icon, const char16_t
 
 void DesignTools::AddTextFormat()
 {
-    auto *bar = new QToolBar(this);
-    bar->setObjectName(u"Toolbar2"_s);
-    addWidget(bar);
+    QToolBar *bar = NewInnerToolBar(u"Toolbar2"_s, *this);
     AddCommand(*bar, u"Fontremove", u"Remove format", Decmd::RemoveFormat);
     const QAction *colour = bar->addAction(SkinIcon(u"Color"), u"Text color"_s);
     connect(colour, &QAction::triggered, this, &DesignTools::ChooseTextColour);

@@ -13,8 +13,8 @@ class QMenuBar;
 namespace brenix {
 
 /// The menu tree of the main window, built from one table of names, captions and shortcuts. An
-/// action's object name is its menu name. Only commands that have something to run are in the tree,
-/// and only menus that hold one.
+/// action's object name is its menu name. A command that has nothing to run is in the tree, but can
+/// never be chosen.
 class MainMenu
 {
 public:

@@ -92,10 +92,9 @@ void WebEngineView::Refresh()
 {
     if (!m_wanted && m_loading)
         m_wanted = m_target;
-    else if (!m_wanted && m_shown == m_target.url)
-        m_wanted = TargetOf(m_target.address); // what failed is tried again
-    else if (!m_wanted && !m_shown.isEmpty())
-        m_wanted = {ShownAddress(), m_shown};
+    else if (!m_wanted && !m_shown.isEmpty()) // what failed is tried again
+        m_wanted = m_shown == m_target.url ? TargetOf(m_target.address)
+                                           : Target{ShownAddress(), m_shown};
     m_restarts = 0;
     m_start.start(0);
 }
