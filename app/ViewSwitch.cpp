@@ -137,7 +137,9 @@ void RunViewSwitch(DocumentModel &document, MainWindowBars &bars)
         }
     } else if (status == u"Preview") {
         EnterPreview(document, bars);
-    } else if (document.Des() == u"1" && (status == u"HTML" || status == u"Split")) {
+    } else if (status != u"HTML" && status != u"Split") {
+        return;
+    } else if (document.Des() == u"1") {
         LeaveDesign(document, true);
     }
     if (document.Des() == u"0")

@@ -5,7 +5,6 @@
 #include "app/TakeDesign.h"
 #include "app/ViewSwitch.h"
 #include "editor/CodeHighlight.h"
-#include "editor/VirtualKeys.h"
 #include "support/BrowserView.h"
 #include "support/DesignView.h"
 #include "support/MessageBoxes.h"
@@ -111,10 +110,8 @@ void frmDocument::ConnectFields()
     connect(m_source, &CodeHighlight::Change, this, &frmDocument::OnSourceChange);
     // Before the source counts the key as typing.
     connect(m_source, &CodeHighlight::KeyDown, this, [this](int &keyCode, int &shift) {
-        if (keyCode != 'W' || shift != ShiftBit::Control)
-            return;
-        keyCode = 0;
-        CloseWindow();
+        if (TakeKey(keyCode, shift))
+            keyCode = 0;
     });
     connect(m_source, &CodeHighlight::SelChange, m_caretStatus.get(), [this] {
         m_caretStatus->Follow(Folder());

@@ -84,6 +84,8 @@ signals:
     /// The selection of the design view, or what it shows, has changed.
     void DesignChanged();
     void ContextMenu(const QPoint &globalPosition);
+    /// Ctrl+Shift and a letter: A is 0, as is the first macro.
+    void MacroKey(int place);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -98,6 +100,7 @@ private:
     void ConnectFields();
     void FocusView();
     void CloseWindow();
+    bool TakeKey(int keyCode, int shift);
     void PlaceSplit();
     void DragSplit(int position, bool finished);
     int SplitPosition() const;

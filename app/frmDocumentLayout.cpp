@@ -2,6 +2,7 @@
 #include "app/TakeDesign.h"
 #include "app/frmDocument.h"
 #include "editor/CodeHighlight.h"
+#include "editor/VirtualKeys.h"
 #include "support/BrowserView.h"
 #include "support/DesignView.h"
 #include "support/PreviewCopies.h"
@@ -153,8 +154,7 @@ void frmDocument::DragSplit(int position, bool finished)
     if (!sourceShut && edge >= Shut)
         return;
     m_splitShare = 0.5;
-    Status = sourceShut ? u"Preview"_s : u"HTML"_s;
-    RefreshPreview(ButtonRefresh);
+    ShowView(sourceShut ? u"Preview"_s : u"HTML"_s);
 }
 
 void frmDocument::resizeEvent(QResizeEvent *)
@@ -171,10 +171,26 @@ void frmDocument::showEvent(QShowEvent *event)
 
 void frmDocument::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_W && event->modifiers() == Qt::ControlModifier)
-        CloseWindow();
-    else
+    const auto bit = [event](Qt::KeyboardModifier modifier, int bit) {
+        return event->modifiers().testFlag(modifier) ? bit : 0;
+    };
+    const int shift = bit(Qt::ShiftModifier, ShiftBit::Shift)
+        | bit(Qt::ControlModifier, ShiftBit::Control) | bit(Qt::AltModifier, ShiftBit::Alt);
+    if (!TakeKey(event->key(), shift))
         QWidget::keyPressEvent(event);
+}
+
+// The keys of the window, whichever of its views they come from.
+bool frmDocument::TakeKey(int keyCode, int shift)
+{
+    const bool isLetter = keyCode >= 'A' && keyCode <= 'Z';
+    if (keyCode == 'W' && shift == ShiftBit::Control)
+        CloseWindow();
+    else if (isLetter && shift == (ShiftBit::Control | ShiftBit::Shift))
+        emit MacroKey(keyCode - 'A');
+    else
+        return false;
+    return true;
 }
 
 // The host asks this window in turn whether it may close; later, for a view is in its key event.
@@ -186,7 +202,7 @@ void frmDocument::CloseWindow()
 
 void frmDocument::ShowView(const QString &status)
 {
-    if (status == u"Design")
+    if (Status() != u"Design")
         Sted = m_source->SelStart();
     Status = status;
     RefreshPreview(ButtonRefresh);

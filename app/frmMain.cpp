@@ -194,7 +194,7 @@ void frmMain::BuildToolbars()
     connect(m_addressBar, &AddressBar::ModeChanged, this, [this] {
         ForActive([](frmDocument &document) {
             document.Status = u"PreviewW"_s;
-            document.Status = u"Preview"_s;
+            document.ShowView(u"Preview"_s);
         });
     });
     connect(m_addressBar, &AddressBar::ScreenChosen, this, &frmMain::ResizeToScreen);

@@ -3,7 +3,6 @@
 #include "app/frmMain.h"
 #include "editor/CodeHighlight.h"
 #include "editor/SourceTyping.h"
-#include "editor/VirtualKeys.h"
 #include "macros/MacroRunner.h"
 #include "macros/frmMacro.h"
 
@@ -69,7 +68,7 @@ void frmMain::ListMacros(frmDocument &document)
         return;
     }
     if (document.Source().isHidden())
-        document.Status = u"HTML"_s;
+        document.ShowView(u"HTML"_s);
     document.Source().SetFocus();
     document.Typing().ShowMacros(names);
 }
@@ -78,12 +77,8 @@ void frmMain::ListMacros(frmDocument &document)
 void frmMain::FollowMacroKeys(frmDocument &document)
 {
     document.Typing().RunMacro = [this](const QString &name) { m_macros->Start(name); };
-    connect(&document.Source(), &CodeHighlight::KeyDown, this, [this](int &keyCode, int &shift) {
-        if (shift != (ShiftBit::Control | ShiftBit::Shift) || keyCode < 'A' || keyCode > 'Z')
-            return;
+    connect(&document, &frmDocument::MacroKey, this, [this](int place) {
         const QStringList names = MacroNames();
-        const int place = keyCode - 'A';
-        keyCode = 0;
         if (names.isEmpty())
             m_macros->OfferFirst();
         else if (place < names.size())

@@ -115,6 +115,17 @@ TEST_F(DocumentWindow, ViewBarSwitches)
     EXPECT_EQ(captions, QStringList({u"Split"_s, u"HTML"_s, u"Preview"_s, u"Design"_s}));
 }
 
+TEST_F(DocumentWindow, CaretStaysWhenTheViewChanges)
+{
+    document.StartWith(u"text"_s, 0);
+    document.Des = u"0"_s; // as after the design view
+    document.Source().SetSelStart(3);
+    for (QAction *button : Part(u"Toolbar1"_s).actions()) {
+        button->trigger();
+        EXPECT_EQ(document.Source().SelStart(), 3);
+    }
+}
+
 TEST_F(DocumentWindow, SplitterIsDragged)
 {
     const int edge = 40; // as near as a bar comes

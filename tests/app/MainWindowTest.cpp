@@ -419,7 +419,7 @@ TEST_F(MainWindow, ControlWCloses)
     EXPECT_THAT(Captions(), ElementsAre(folder.filePath(u"a.html"_s)));
     TypeInto(0, u"x"_s);
     boxes.answer = Answer::Cancel;
-    Press(Active().Source(), Qt::Key_W, Qt::ControlModifier);
+    Press(Active(), Qt::Key_W, Qt::ControlModifier); // from another view
     Settle();
     EXPECT_EQ(Documents().size(), 1);
     EXPECT_THAT(boxes.asked,
