@@ -1,5 +1,4 @@
 #include "cli/Verb.h"
-#include "support/AuthorFile.h"
 #include "support/SettingsStore.h"
 #include "support/TextCodec.h"
 
@@ -7,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <cerrno>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -170,22 +170,22 @@ namespace {
 std::optional<QString> ReadInput(const QCommandLineParser &parser, qsizetype argument)
 {
     const QString name = parser.positionalArguments().value(argument, u"-"_s);
-    FileContent file;
-    if (name == u"-") {
-        QFile input;
-        input.open(stdin, QIODevice::ReadOnly);
-        file.bytes = input.readAll();
-        if (input.error() != QFileDevice::NoError)
-            file.error = input.errorString();
-    } else {
-        file = ReadAuthorFile(name);
+    // Also a pipe or a device can be named, such as a shell makes of "<(command)".
+    std::FILE *stream
+        = name == u"-" ? stdin : std::fopen(QFile::encodeName(name).constData(), "rb");
+    if (!stream) {
+        Complain(u"%1: %2"_s.arg(name, qt_error_string(errno)));
+        return std::nullopt;
     }
-    if (!file.error.isEmpty()) {
-        Complain(u"%1: %2"_s.arg(name, file.error));
+    QFile input;
+    input.open(stream, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    const QByteArray bytes = input.readAll();
+    if (input.error() != QFileDevice::NoError) {
+        Complain(u"%1: %2"_s.arg(name, input.errorString()));
         return std::nullopt;
     }
     const QByteArray codec = GetSetting(u"Editor", u"Encoding", u"windows-1250"_s).toLatin1();
-    return WithCrLf(DecodePage(file.bytes, codec).text);
+    return WithCrLf(DecodePage(bytes, codec).text);
 }
 
 bool WriteOutput(const QString &text)
