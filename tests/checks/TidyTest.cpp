@@ -2,6 +2,7 @@
 #include "checks/TidyPresets.h"
 #include "checks/TidyReport.h"
 #include "support/AuthorFile.h"
+#include "tests/support/SourceTree.h"
 
 #include <QSet>
 #include <QTemporaryDir>
@@ -99,6 +100,18 @@ TEST_F(Presets, ExportAndImport)
     EXPECT_EQ(presets.Import(file), u""_s);
     EXPECT_EQ(presets.Load(u"One"_s).text, u"wrap: 0\r\nnew-inline-tags: a\r\nb\r\n\r\nx: 1\r\n"_s);
     EXPECT_EQ(presets.Load(u"two"_s).text, u""_s);
+}
+
+// A comma in one of their comments would be torn apart.
+TEST_F(Presets, ThoseThatAreShippedComeBackWhole)
+{
+    const TidyPresets shipped(SourceFile("data/Tidy/Presets"));
+    EXPECT_GE(shipped.Names().size(), 6);
+    EXPECT_EQ(shipped.Export(file), u""_s);
+    EXPECT_EQ(presets.Import(file), u""_s);
+    for (const QString &name : shipped.Names())
+        EXPECT_EQ(presets.Load(name).text.remove(u'\r'), shipped.Load(name).text)
+            << qPrintable(name);
 }
 
 TEST_F(Presets, ExportTellsOfAFileThatCannotBeRead)
