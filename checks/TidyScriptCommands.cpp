@@ -16,7 +16,8 @@ namespace {
 
     void TellError(const QString &error)
     {
-        MsgBox(error, Buttons::Ok, Icon::Critical);
+        const bool isHint = error == TidyPresets::NameError({}); // the words of the name check
+        MsgBox(error, Buttons::Ok, isHint ? Icon::Information : Icon::Critical);
     }
 
 } // namespace
@@ -121,11 +122,6 @@ void TidyScript::ShowName(const QString &name)
 
 bool TidyScript::SaveUnder(const QString &name)
 {
-    const QString nameError = TidyPresets::NameError(name);
-    if (!nameError.isEmpty()) {
-        MsgBox(nameError, Buttons::Ok, Icon::Information);
-        return false;
-    }
     const QString error = m_presets.Save(name, m_code->Text());
     if (!error.isEmpty()) {
         TellError(error);
