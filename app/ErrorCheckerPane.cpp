@@ -4,6 +4,7 @@
 #include "app/TakeDesign.h"
 #include "checks/ReportLine.h"
 #include "support/DocumentModel.h"
+#include "support/ShowSource.h"
 #include "support/SourceView.h"
 
 #include <QAction>
@@ -150,7 +151,7 @@ void ErrorCheckerPane::JumpTo(const QString &line)
     DocumentModel *page = m_activePage();
     const std::optional<ReportPlace> place = PlaceOfReportLine(line);
     const std::optional<int> position = PositionOfReportLine(line);
-    if (!page || (!place && !position))
+    if (!page || (!place && !position) || !BringUpSource(*page))
         return;
     SourceView &source = page->rtfText();
     if (place) {

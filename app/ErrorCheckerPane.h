@@ -11,7 +11,8 @@ class QPushButton;
 
 namespace brenix {
 
-/// The report of a check: a click or Enter on a line leads the caret to its place.
+/// The report of a check: a click or Enter on a line leads the caret to its place, and brings the
+/// source up where another view is shown.
 class ErrorCheckerPane : public QWidget
 {
     Q_OBJECT

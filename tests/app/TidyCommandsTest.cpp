@@ -59,7 +59,9 @@ TEST_F(ErrorChecks, TidysReportIsListed)
                             u""_s,
                             u"Warnings: 1"_s,
                             u"Errors: 0"_s));
+    page.Status = u"Preview"_s;
     emit report.itemClicked(report.item(2));
+    EXPECT_EQ(page.Status(), u"HTML"_s);
     EXPECT_EQ(page.source.SelStart(), 9);
     EXPECT_TRUE(page.source.hasFocus);
 }
