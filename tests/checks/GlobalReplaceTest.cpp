@@ -132,7 +132,7 @@ TEST_F(GlobalReplaceTest, LinesAreTakenOneByOne)
             if (LowerCased(lines[i]).contains(LowerCased(find)))
                 log += u"In file: 'f', In line: '%1',  Was '%2', Now '%3'"_s.arg(
                     QString::number(i + 1), lines[i], now);
-            after += now + u"\r\n";
+            after += now + u"\r\n"_s;
         }
         Pulse pulse({});
         const auto page = ReplaceInLines(text, TextSearch(find), u"A-"_s, u"f"_s, pulse);

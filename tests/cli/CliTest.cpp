@@ -233,7 +233,7 @@ TEST(CliManual, TellsOfEveryVerb)
     QProcess cli;
     cli.start(QStringLiteral(BRENIX_CLI), {u"--help"_s});
     ASSERT_TRUE(cli.waitForFinished());
-    QFile manual(SourceFile("docs/brenix-cli.1"));
+    QFile manual(brenix::SourceFile("docs/brenix-cli.1"));
     ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(manual.readAll());
     int verbs = 0;

@@ -199,7 +199,7 @@ TEST(CodeHighlightColour, ThePageCanBePaintedWhileTheLimitsMessageStands)
         return Answer::Ok;
     };
     SetLargeFile(20);
-    const QString page = QStringLiteral(BRENIX_TEST_DATA "/../docs/sample.html");
+    const QString page = SourceFile("docs/sample.html");
     const std::function<void()> commands[] = {
         [&] { editor.SetLanguage(Html); },
         [&] { editor.SetText(u"x"_s.repeated(21)); },
