@@ -175,9 +175,11 @@ void CodeHighlight::PlaceGutter()
     // Lines that have no width left are not wrapped. Where the scroll bar takes it, the page would
     // need the bar, fit beside it, and so on without end.
     const int barWidth = verticalScrollBar()->sizeHint().width();
-    const bool barFits = inner.width() - width - barWidth >= fontMetrics().maxWidth();
-    setVerticalScrollBarPolicy(barFits ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    const bool barFits = inner.width() - width - barWidth >= fontMetrics().averageCharWidth();
+    const auto policy = barFits ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
     // Each call lays the view out anew, which comes back here.
+    if (verticalScrollBarPolicy() != policy)
+        setVerticalScrollBarPolicy(policy);
     if (viewportMargins().left() != width)
         setViewportMargins(width, 0, 0, 0);
     m_gutter->setGeometry(inner.left(), inner.top(), width, inner.height());
