@@ -9,6 +9,7 @@ namespace brenix {
 
 namespace {
 
+    constexpr int LongestParagraph = 20'000; // printing slows down with the square of it
     constexpr float LightestInk = 0.6F;
     constexpr float DarkenedInk = 0.4F;
 
@@ -54,15 +55,20 @@ std::unique_ptr<QTextDocument> PrintedSource(const QTextDocument &view,
     paper->setDefaultTextOption(option);
 
     QTextCursor cursor(paper.get());
+    // As one edit: else each run would lay out its line once more, of which there may be megabytes.
+    cursor.beginEditBlock();
     for (QTextBlock block = view.findBlock(from); block.isValid() && block.position() <= to;
          block = block.next()) {
         const int start = block.position();
-        // The pieces of a long line are one line again.
-        if (start > from && !page.EndsInSoftBreak(block.previous()))
+        // The pieces of a long line are one line again, unless that takes up pages of its own.
+        const bool goesOn
+            = page.EndsInSoftBreak(block.previous()) && cursor.positionInBlock() < LongestParagraph;
+        if (start > from && !goesOn)
             cursor.insertBlock();
         AddStretch(
             cursor, block, std::max(from - start, 0), std::min(to - start, block.length() - 1));
     }
+    cursor.endEditBlock();
     return paper;
 }
 
