@@ -209,6 +209,7 @@ bool frmHelp::ShowKeyword(const QString &keyword)
         return false;
     ShowFile(topic->file);
     Present();
+    m_topic->setFocus();
     return true;
 }
 
@@ -218,6 +219,7 @@ void frmHelp::ShowContents()
         ShowFile(HelpIndex::ContentsFile.toString());
     m_tabs->setCurrentWidget(m_contents);
     Present();
+    m_contents->setFocus();
 }
 
 void frmHelp::ShowSearch()

@@ -65,6 +65,7 @@ TEST_F(HelpWindow, ShowsTheTopicOfTheTagAtTheCaret)
         EXPECT_EQ(Help()->isVisible(), !row.file.isEmpty());
         if (Help()->isVisible()) {
             EXPECT_EQ(Topic().source().path().section(u'/', -2), u"tags/"_s + row.file);
+            EXPECT_EQ(Help()->focusWidget(), &Topic()) << "to be scrolled by keys";
         }
         EXPECT_EQ(boxes.asked,
                   row.file.isEmpty() ? QStringList{u"Keyword not found!"_s} : QStringList());
