@@ -76,6 +76,10 @@ public:
     void SetForeColor(quint32 colour) { m_foreColor = colour; }
     void SetFont(const QString &name, int points);
 
+    /// Puts the selected text before another position of the page, the caret behind it. Nothing
+    /// happens for a position within the selection.
+    void MoveSelText(int position);
+
     /// A line is coloured at each delimiter key only when this is exactly 1.
     int HighlightCode() const { return m_highlightCode; }
     void SetHighlightCode(int value) { m_highlightCode = value; }

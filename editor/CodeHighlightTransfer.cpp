@@ -49,19 +49,29 @@ void CodeHighlight::dropEvent(QDropEvent *event)
         return;
     }
     event->acceptProposedAction();
-    const QTextCursor place = cursorForPosition(event->position().toPoint()); // moves with edits
-    const QTextCursor selected = textCursor();
+    const int place = cursorForPosition(event->position().toPoint()).position();
     const bool ownText = event->source() == this || event->source() == viewport();
-    const bool moves = ownText && event->dropAction() == Qt::MoveAction;
-    if (moves && place.position() >= selected.selectionStart()
-        && place.position() <= selected.selectionEnd())
+    if (ownText && event->dropAction() == Qt::MoveAction) {
+        MoveSelText(m_mirror->Rope().ToTextPosition(place));
+    } else {
+        Select(place, place);
+        insertFromMimeData(event->mimeData());
+    }
+    ensureCursorVisible();
+}
+
+void CodeHighlight::MoveSelText(int position)
+{
+    const QTextCursor selected = textCursor();
+    const int start = selected.selectionStart();
+    const int length = selected.selectionEnd() - start;
+    const int place = m_mirror->Rope().FromTextPosition(position);
+    if (IsReadOnlyPage() || (place >= start && place <= start + length))
         return;
     AddUndo();
-    if (moves)
-        SetSelText({});
-    Select(place.position(), place.position());
-    SetSelText(event->mimeData()->text());
-    ensureCursorVisible();
+    const QString held = m_mirror->Rope().Mid(start, length); // with the line ends that it has
+    ReplaceHeld(start, length, {});
+    ReplaceHeld(place > start ? place - length : place, 0, held);
 }
 
 } // namespace brenix

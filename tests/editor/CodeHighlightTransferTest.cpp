@@ -3,7 +3,6 @@
 #include "tests/support/ScriptedBoxes.h"
 
 #include <QClipboard>
-#include <QDrag>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTemporaryDir>
@@ -13,36 +12,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Drops `text` before the character at `place`; while a drag of the page's own selection goes on
-// when it is `ownText`.
-void Drop(
-    CodeHighlight &editor, const QString &text, int place, Qt::DropAction action, bool ownText)
+// Drops `text` before the character at `place`, as another program does.
+void Drop(CodeHighlight &editor, const QString &text, int place)
 {
-    const int start = editor.SelStart();
-    const int length = editor.SelLength();
     editor.SetSelStart(place);
-    const QPointF position = editor.cursorRect().center();
-    editor.SetSelStart(start);
-    editor.SetSelLength(length);
-
+    const QPoint position = editor.cursorRect().center();
+    editor.SetSelStart(0);
     QMimeData data;
     data.setText(text);
-    const auto drop = [&] {
-        QDragEnterEvent enter(position.toPoint(), action, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(editor.viewport(), &enter);
-        QDropEvent event(position, action, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(editor.viewport(), &event);
-        EXPECT_EQ(event.isAccepted(), !editor.isReadOnly());
-    };
-    if (!ownText)
-        return drop();
-    auto *drag = new QDrag(editor.viewport());
-    drag->setMimeData(new QMimeData);
-    QTimer::singleShot(0, &editor, [&] {
-        drop();
-        QDrag::cancel();
-    });
-    drag->exec(action);
+    QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor.viewport(), &enter);
+    QDropEvent drop(position, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor.viewport(), &drop);
+    EXPECT_EQ(drop.isAccepted(), !editor.isReadOnly());
 }
 
 } // namespace
@@ -70,7 +52,7 @@ TEST(CodeHighlightTransfer, ShiftAndDeleteCuts)
 }
 
 // Lines between the two places keep their ends, and a long line stays one.
-TEST(CodeHighlightTransfer, Drops)
+TEST(CodeHighlightTransfer, MovedAndDroppedText)
 {
     const ScriptedBoxes boxes;
     const QTemporaryDir folder;
@@ -80,46 +62,45 @@ TEST(CodeHighlightTransfer, Drops)
         const char *name;
         QByteArray page;
         int start;
-        int length;
+        int length; // of what is moved; 0 drops "a" and a line end
         int place;
-        Qt::DropAction action;
-        bool ownText;
         QByteArray expected;
         int caret;
     } rows[] = {
-        {"down", "ab\nc\r\nd\re\n", 0, 1, 8, Qt::MoveAction, true, "b\nc\r\nda\re\n", 8},
-        {"up", "ab\nc\r\nd\re\n", 7, 1, 1, Qt::MoveAction, true, "adb\nc\r\n\re\n", 2},
+        {"down", "ab\nc\r\nd\re\n", 0, 1, 8, "b\nc\r\nda\re\n", 8},
+        {"up", "ab\nc\r\nd\re\n", 7, 1, 1, "adb\nc\r\n\re\n", 2},
         {"over a long line",
          "ab\n" + longLine,
          0,
          2,
          3006,
-         Qt::MoveAction,
-         true,
-         "\n" + longLine.chopped(2) + "ab" + "g\n",
+         "\n" + longLine.chopped(2) + "abg\n",
          3006},
         {"within a long line",
          "a" + longLine,
          0,
          1,
          2500,
-         Qt::MoveAction,
-         true,
          QByteArray(longLine).insert(2499, 'a'),
          2500},
-        {"a line end", "a\rb\r\nc\n", 1, 2, 6, Qt::MoveAction, true, "ab\r\n\r\nc\n", 6},
-        {"into itself", "abcd\n", 1, 2, 2, Qt::MoveAction, true, "abcd\n", 1},
-        {"a copy", "ab\nc\r", 0, 1, 5, Qt::CopyAction, true, "ab\nca\r", 6},
-        {"from elsewhere", "ab\nc\r", 0, 1, 5, Qt::MoveAction, false, "ab\nca\r", 6},
-        {"on a page that can only be read",
+        {"a line end", "a\rb\r\nc\n", 1, 2, 6, "ab\r\n\rc\n", 6},
+        {"into itself", "abcd\n", 1, 2, 2, "abcd\n", 1},
+        {"dropped", "ab\nc\rd\r", 0, 0, 5, "ab\nca\r\rd\r", 8},
+        {"dropped into a long line",
+         longLine,
+         0,
+         0,
+         2500,
+         QByteArray(longLine).insert(2500, "a\n"),
+         2503},
+        {"moved on a page that can only be read",
          u"\uFDD2b\n"_s.toUtf8(),
          0,
          1,
          2,
-         Qt::MoveAction,
-         true,
          u"\uFDD2b\n"_s.toUtf8(),
          0},
+        {"dropped on such a page", u"\uFDD2b\n"_s.toUtf8(), 0, 0, 2, u"\uFDD2b\n"_s.toUtf8(), 0},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
@@ -134,10 +115,14 @@ TEST(CodeHighlightTransfer, Drops)
         editor.show();
         ASSERT_TRUE(editor.LoadFile(path));
         editor.AddUndo();
-        editor.SetSelStart(row.start);
-        editor.SetSelLength(row.length);
         const QString before = editor.Text();
-        Drop(editor, editor.SelText(), row.place, row.action, row.ownText);
+        if (row.length == 0) {
+            Drop(editor, u"a\n"_s, row.place);
+        } else {
+            editor.SetSelStart(row.start);
+            editor.SetSelLength(row.length);
+            editor.MoveSelText(row.place);
+        }
         EXPECT_EQ(editor.FileBytes(), row.expected);
         EXPECT_EQ(editor.SelStart(), row.caret);
         ExpectTextIsShown(editor);
