@@ -52,7 +52,7 @@ namespace {
         return held;
     }
 
-    // Spells out every line end; soft breaks go.
+    // Spells out every line end, as `spelling` says for the text so far; soft breaks go.
     template <typename Spelling> void Spell(QStringView held, QString &result, Spelling spelling)
     {
         qsizetype from = 0;
@@ -61,22 +61,25 @@ namespace {
                 continue;
             result += held.sliced(from, i - from);
             if (held[i] != QChar(LineEnd::Soft))
-                result += spelling(held[i].unicode());
+                result += spelling(held[i].unicode(), result);
             from = i + 1;
         }
         result += held.sliced(from);
     }
 
-    QStringView SpelledAsCommandsSee(char16_t)
+    QStringView SpelledAsCommandsSee(char16_t, QStringView)
     {
         return u"\r\n";
     }
 
-    QStringView SpelledAsInFile(char16_t unit)
+    QStringView SpelledAsInFile(char16_t unit, QStringView before)
     {
         if (unit == LineEnd::CrLf)
             return u"\r\n";
-        return unit == LineEnd::Lf ? u"\n" : u"\r";
+        if (unit == LineEnd::Cr)
+            return u"\r";
+        // What stood between the two is deleted. They stay two line ends: CR LF, and LF.
+        return before.endsWith(u'\r') ? u"\n\n" : u"\n";
     }
 
     template <typename Spelling> QString SpellAll(const TextRope &held, Spelling spelling)

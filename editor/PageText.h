@@ -14,7 +14,8 @@ namespace brenix {
 /// for a text document. Characters that a text document cannot hold are stand-ins in the held form
 /// only.
 
-/// File text to held text. Nothing is lost: `FileTextOf` gives the same text back.
+/// File text to held text. Nothing is lost: `FileTextOf` gives the same text back. (Where an edit
+/// has brought a CR right before an LF, the file gets CR LF and LF, so that both are still there.)
 QString HeldText(QStringView fileText);
 QString FileTextOf(const TextRope &held);
 

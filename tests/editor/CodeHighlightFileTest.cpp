@@ -124,6 +124,7 @@ TEST_F(CodeHighlightFile, LineEndsThatCommandsLeaveAlone)
         {"Enter gives the usual end", "a\nb\nc\r\n", 1, 0, u"\u23CE"_s, "a\n\nb\nc\r\n"},
         {"joined with Backspace", "a\nb\rc\r\n", 3, 0, u"\u232B"_s, "ab\rc\r\n"},
         {"joined with Delete", "a\n\r\nc\r", 3, 0, u"\u2326"_s, "a\nc\r"},
+        {"CR and LF that come together are still two", "a\rb\n", 4, 0, u"\u232B"_s, "a\r\n\n"},
         {"Tab keeps each line's end", "a\nb\rc\r\n", 0, 8, u"\u21E5"_s, "\ta\n\tb\r\tc\r\n"},
     };
     for (const auto &row : rows) {
