@@ -1,9 +1,9 @@
 #include "app/ActivePage.h"
 
-#include "editor/InsertMarkup.h"
 #include "support/DesignView.h"
 #include "support/DocumentModel.h"
 #include "support/SourceView.h"
+#include "tags/InsertMarkup.h"
 
 namespace brenix {
 

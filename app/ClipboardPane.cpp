@@ -4,13 +4,13 @@
 #include "app/ClipboardRecord.h"
 #include "app/PaneList.h"
 #include "app/SkinIcons.h"
-#include "editor/InsertMarkup.h"
 #include "support/AuthorFile.h"
 #include "support/DocumentModel.h"
 #include "support/MessageBoxes.h"
 #include "support/SettingsStore.h"
 #include "support/SourceView.h"
 #include "support/TextCodec.h"
+#include "tags/InsertMarkup.h"
 
 #include <QBoxLayout>
 #include <QMenu>

@@ -1,9 +1,9 @@
 #include "app/frmDocument.h"
 #include "editor/CodeHighlight.h"
-#include "editor/InsertMarkup.h"
 #include "editor/SourceTyping.h"
 #include "support/ColourText.h"
 #include "support/MessageBoxes.h"
+#include "tags/InsertMarkup.h"
 
 namespace brenix {
 

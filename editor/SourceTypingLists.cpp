@@ -1,12 +1,12 @@
 #include "editor/CodeHighlight.h"
 #include "editor/Completion.h"
-#include "editor/InsertMarkup.h"
 #include "editor/SourceTyping.h"
 #include "editor/TypingSteps.h"
 #include "editor/VirtualKeys.h"
 #include "support/SettingsStore.h"
 #include "tags/AttributeCatalogue.h"
 #include "tags/ChooseLink.h"
+#include "tags/InsertMarkup.h"
 #include "tags/TagCatalogue.h"
 #include "tags/ValueCatalogue.h"
 

@@ -1,8 +1,8 @@
 #include "editor/TypingSteps.h"
 
-#include "editor/InsertMarkup.h"
 #include "editor/VirtualKeys.h"
 #include "support/SourceView.h"
+#include "tags/InsertMarkup.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 #include "insert/frmHyperlink.h"
 
-#include "editor/InsertMarkup.h"
 #include "support/DocumentModel.h"
 #include "support/Help.h"
 #include "support/SourceView.h"
 #include "tags/ChooseLink.h"
 #include "tags/EditTag.h"
+#include "tags/InsertMarkup.h"
 #include "tags/RecentBox.h"
 
 #include <QBoxLayout>

@@ -1,6 +1,5 @@
 #include "insert/frmImage.h"
 
-#include "editor/InsertMarkup.h"
 #include "insert/PictureViewer.h"
 #include "support/DocumentModel.h"
 #include "support/Help.h"
@@ -8,6 +7,7 @@
 #include "support/SourceView.h"
 #include "tags/ChooseLink.h"
 #include "tags/EditTag.h"
+#include "tags/InsertMarkup.h"
 #include "tags/LinkFiles.h"
 #include "tags/RecentBox.h"
 

@@ -2,10 +2,10 @@
 
 #include "checks/FindReplace.h"
 #include "checks/Pulse.h"
-#include "editor/InsertMarkup.h"
 #include "macros/MacroValues.h"
 #include "support/DocumentModel.h"
 #include "support/SourceView.h"
+#include "tags/InsertMarkup.h"
 
 #include <QProcess>
 

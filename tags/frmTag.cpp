@@ -1,6 +1,6 @@
 #include "tags/frmTag.h"
 
-#include "editor/InsertMarkup.h"
+#include "tags/InsertMarkup.h"
 #include "tags/TagNameList.h"
 
 #include <QListWidget>

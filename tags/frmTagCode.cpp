@@ -1,6 +1,6 @@
 #include "tags/frmTagCode.h"
 
-#include "editor/InsertMarkup.h"
+#include "tags/InsertMarkup.h"
 #include "tags/NumericEntities.h"
 
 #include <QPlainTextEdit>

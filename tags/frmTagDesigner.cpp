@@ -1,9 +1,9 @@
 #include "tags/frmTagDesigner.h"
 
-#include "editor/InsertMarkup.h"
 #include "support/DocumentModel.h"
 #include "tags/AttributeCatalogue.h"
 #include "tags/ChooseLink.h"
+#include "tags/InsertMarkup.h"
 #include "tags/LinkFiles.h"
 #include "tags/TagDesignerText.h"
 #include "tags/TagNameList.h"

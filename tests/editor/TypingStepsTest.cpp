@@ -1,8 +1,8 @@
 #include "editor/TypingSteps.h"
 
-#include "editor/InsertMarkup.h"
 #include "editor/VirtualKeys.h"
 #include "support/SettingsStore.h"
+#include "tags/InsertMarkup.h"
 #include "tests/editor/MarkedSource.h"
 #include "tests/support/FreshHome.h"
 

@@ -1,4 +1,4 @@
-#include "editor/InsertMarkup.h"
+#include "tags/InsertMarkup.h"
 
 #include "support/DesignView.h"
 #include "support/DocumentModel.h"
