@@ -17,7 +17,7 @@ namespace {
 
     constexpr int SnapshotDelay = 5; // ms, as after any other key
 
-    // An interval of 0 never ends.
+    // The interval 0 switches a list off.
     void Arm(QTimer &timer, QStringView section, QStringView key, int defaultInterval)
     {
         const int interval = GetNumberSetting(section, key, defaultInterval).value_or(0);
@@ -142,6 +142,8 @@ void SourceTyping::OnKeyPress(int &keyAscii)
     }
     if (character == u'>')
         m_lists.Hide(CompletionLists::EndTag);
+    if (character.isSurrogate())
+        m_lists.HideAll(); // half of what is entered, which no row begins with
     m_lists.AddTyped(character);
     ArmTimers(character);
 
