@@ -49,6 +49,7 @@ namespace {
         {"letter", Qt::Key_E, u"e", Qt::Key_Backspace, u"\b", false},
         {"blank", Qt::Key_Space, u" ", Qt::Key_Backspace, u"\b", false},
         {"Enter", Qt::Key_Return, u"\r", Qt::Key_Backspace, u"\b", false},
+        {"tag list", Qt::Key_Less, u"<", Qt::Key_Backspace, u"\b", false},
         {"end tag", Qt::Key_Greater, u">", Qt::Key_Backspace, u"\b", false},
         {"Backspace", Qt::Key_Backspace, u"\b", Qt::Key_E, u"e", true},
     };

@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QFile>
+#include <QHash>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -38,24 +39,23 @@ PrivateHome::PrivateHome()
     brenix::SaveSetting(u"Settings", u"Bigfile", u"False"_s); // no message for a large page
 }
 
-// Counts what is painted anywhere in the source view.
+// Counts what is painted anywhere in a control, by the control's name.
 class Program::PaintWatch : public QObject
 {
 public:
     PaintWatch() { qApp->installEventFilter(this); }
-    int Count() const { return m_count; }
+    int Count(const QString &control) const { return m_counts.value(control); }
 
 protected:
     bool eventFilter(QObject *target, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint && target->parent()
-            && target->parent()->objectName() == u"rtfText")
-            ++m_count;
+        if (event->type() == QEvent::Paint && target->parent())
+            ++m_counts[target->parent()->objectName()];
         return false;
     }
 
 private:
-    int m_count = 0;
+    QHash<QString, int> m_counts;
 };
 
 Program::Program()
@@ -92,14 +92,14 @@ brenix::CodeHighlight &Program::Source()
     return m_window.ActiveForm()->Source();
 }
 
-bool Program::AwaitPaint()
+bool Program::AwaitPaint(const QString &control)
 {
-    const int before = m_watch->Count();
+    const int before = m_watch->Count(control);
     QElapsedTimer waiting;
     waiting.start();
-    while (m_watch->Count() == before && waiting.elapsed() < PaintLimit)
+    while (m_watch->Count(control) == before && waiting.elapsed() < PaintLimit)
         QCoreApplication::processEvents();
-    return m_watch->Count() > before;
+    return m_watch->Count(control) > before;
 }
 
 void Program::Settle()

@@ -28,9 +28,9 @@ public:
     /// when it was not painted in good time.
     bool Open(const QByteArray &page, int largeFile);
     brenix::CodeHighlight &Source();
-    /// Lets the program run until it has painted the source at least once and has nothing left to
-    /// do. False when it was not painted in good time.
-    bool AwaitPaint();
+    /// Lets the program run until it has painted a control, the source view or a list over it, at
+    /// least once and has nothing left to do. False when it was not painted in good time.
+    bool AwaitPaint(const QString &control = QStringLiteral("rtfText"));
     /// Lets the timers run out that follow a key.
     void Settle();
     void Close();

@@ -7,6 +7,7 @@ namespace bench {
 void RegisterColouring();
 void RegisterSnapshots();
 void RegisterKeys();
+void RegisterLists();
 void RegisterOpening();
 void RegisterTransforms();
 void RegisterReplacing();
@@ -27,6 +28,7 @@ int main(int argc, char **argv)
     bench::RegisterColouring();
     bench::RegisterSnapshots();
     bench::RegisterKeys();
+    bench::RegisterLists();
     bench::RegisterOpening();
     bench::RegisterTransforms();
     bench::RegisterReplacing();
