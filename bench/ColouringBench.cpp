@@ -21,7 +21,7 @@ namespace {
         qsizetype size;
         int turns;
     };
-    // 5 MB comes first: the others are compared with it.
+    // 5 MB comes first: more of the same is compared with it.
     constexpr Input Inputs[] = {
         {"5 MB", 5 * Megabyte, 41},
         {"1 MB", Megabyte, 101},
@@ -69,7 +69,8 @@ namespace {
         row.Remark(u"%1 ns a character"_s.arg(cost * 1e9, 0, 'f', 2));
         if (&input == Inputs)
             costInFirst[&kind] = cost;
-        else if (const auto first = costInFirst.find(&kind); first != costInFirst.end())
+        else if (const auto first = costInFirst.find(&kind);
+                 first != costInFirst.end() && input.size > Inputs->size)
             row.Target(u"of that in 5 MB"_s, cost / first->second, GrowthTarget);
     }
 

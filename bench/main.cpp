@@ -3,6 +3,10 @@
 
 #include <QApplication>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace bench {
 void RegisterColouring();
 void RegisterSnapshots();
@@ -14,8 +18,23 @@ void RegisterReplacing();
 void RegisterChecks();
 } // namespace bench
 
+namespace {
+
+// What is measured is the program, and not how fast the system hands out empty pages: memory that
+// was freed is used again, however large.
+void KeepFreedMemory()
+{
+#ifdef __GLIBC__
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, -1);
+#endif
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
+    KeepFreedMemory();
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);

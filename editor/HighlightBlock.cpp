@@ -110,7 +110,9 @@ namespace {
         void Grow(qsizetype length)
         {
             const qsizetype used = m_end - m_text.constData();
-            m_text.resize((used + length) * 3 / 2);
+            const qsizetype wanted = (used + length) * 5 / 4;
+            m_text.reserve(wanted); // or resizing would make room for twice as much
+            m_text.resize(wanted);
             m_end = m_text.data() + used;
             m_limit = m_text.data() + m_text.size();
         }
@@ -231,7 +233,7 @@ QString HighlightBlock(QStringView text, const SyntaxTables &tables, const Synta
         return text.toString();
     if (text.isEmpty())
         return {};
-    StreamBuffer out(text.size() * 5 / 2 + ColourTableRoom);
+    StreamBuffer out(text.size() * 3 + ColourTableRoom);
     out.Add(u"{{\\colortbl ;");
     for (const quint32 colour : {colours.keyword, colours.op, colours.function, colours.delimiter})
         out.Add(ColorTableEntry(colour));
