@@ -8,7 +8,6 @@
 #include "support/BrowserView.h"
 #include "support/DesignView.h"
 #include "support/MessageBoxes.h"
-#include "support/Paths.h"
 #include "support/PreviewCopies.h"
 #include "support/SettingsStore.h"
 #include "support/UntitledPages.h"

@@ -89,11 +89,7 @@ frmOptions::frmOptions(QWidget *parent)
     line->setFrameShadow(QFrame::Sunken);
     right->addWidget(m_title);
     right->addWidget(line);
-    auto *scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(m_stack);
-    right->addWidget(scroll, 1);
+    right->addWidget(m_stack, 1);
     Rows().Add(body, 1);
     AddButtons({.ok = u"cmdOk", .cancel = u"cmdCancel", .help = u"Command4"},
                [] { ShowHelp(u"OPTIONS"_s); });
@@ -106,8 +102,11 @@ frmOptions::frmOptions(QWidget *parent)
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &frmOptions::ShowPage);
     m_tree->setCurrentItem(m_tree->topLevelItem(0)->child(0));
 
-    // Large enough for every page; where the screen is not, the pages scroll.
-    const QSize missing = m_stack->sizeHint() - scroll->sizeHint();
+    // Large enough for every page; where the screen is not, the larger pages scroll.
+    QSize largest;
+    for (const QScrollArea *page : m_stack->findChildren<QScrollArea *>(Qt::FindDirectChildrenOnly))
+        largest = largest.expandedTo(page->widget()->sizeHint());
+    const QSize missing = largest - m_stack->sizeHint();
     resize((sizeHint() + missing.expandedTo({0, 0})).boundedTo(screen()->availableSize()));
 }
 
@@ -123,9 +122,13 @@ void frmOptions::BuildPages()
         }
         auto *item = new QTreeWidgetItem(group, {QString::fromUtf16(page.caption)});
         item->setData(0, PageRole, m_stack->count());
-        auto *frame = new QWidget(m_stack);
+        auto *scroll = new QScrollArea;
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidgetResizable(true);
+        m_stack->addWidget(scroll);
+        auto *frame = new QWidget;
         frame->setObjectName(QString::fromUtf16(page.name));
-        m_stack->addWidget(frame);
+        scroll->setWidget(frame);
         Form &form = Rows().Inside(frame);
         (this->*page.build)(form);
         form.AddStretch();
